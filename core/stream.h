@@ -1,0 +1,141 @@
+// The one row copy and the one row fill of the library, plain and streaming, and the
+// two-stage test that chooses streaming (non-temporal) stores for large images.
+#pragma once
+#include <immintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "core/isa.h"
+#include "tpxcore.h"
+
+namespace tpx {
+
+// ---- When to stream -------------------------------------------------------------------------
+// The query, injectable so that tests can drive both paths on small images.
+using CacheSizeQuery = int (*)(int* pSizeBytes);
+
+// Stage 1: an amount below the family's floor keeps plain stores and asks nothing.
+// Stage 2: otherwise ask for the largest cache; stream if the query succeeded and the amount is
+// at least the reported size. The amount is in the family's own unit (samples or pixels).
+inline bool ChooseStreaming(long long amount, long long floor,
+                            CacheSizeQuery query = tpxGetMaxCacheSizeB) {
+  if (amount < floor) return false;
+  int cache = 0;
+  if (query(&cache) != 0) return false;
+  return amount >= cache;
+}
+
+// Streaming stores are weakly ordered: a call that used them ends on this fence.
+inline void StreamFence() { _mm_sfence(); }
+
+// ---- Row copy -----------------------------------------------------------------------------
+// d[0, n) = s[0, n) in bytes. n >= 0; s and d must not overlap. V = 32 bytes, unrolled by 4.
+// Tail: overlapping last vector where n >= 32, scalar bytes below that. kStream writes whole
+// aligned vectors of d with non-temporal stores (head and tail plain); the caller fences.
+template <Isa kI, bool kStream = false>
+inline void CopyBytes(const void* src, void* dst, std::size_t n) {
+  const auto* s = static_cast<const unsigned char*>(src);
+  auto* d = static_cast<unsigned char*>(dst);
+  if constexpr (kI == Isa::kScalar) {
+    for (std::size_t i = 0; i < n; ++i) d[i] = s[i];
+  } else {
+    if (n < 32) {
+      std::memcpy(d, s, n);
+      return;
+    }
+    std::size_t i = 0;
+    if constexpr (kStream) {
+      const std::size_t head = (0u - reinterpret_cast<std::uintptr_t>(d)) & 31u;
+      _mm256_storeu_si256(reinterpret_cast<__m256i*>(d), _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s)));
+      i = head;
+      for (; i + 128 <= n; i += 128) {
+        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i));
+        const __m256i b = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 32));
+        const __m256i c = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 64));
+        const __m256i e = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 96));
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i), a);
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i + 32), b);
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i + 64), c);
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i + 96), e);
+      }
+      for (; i + 32 <= n; i += 32)
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i),
+                            _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i)));
+    } else {
+      for (; i + 128 <= n; i += 128) {
+        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i));
+        const __m256i b = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 32));
+        const __m256i c = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 64));
+        const __m256i e = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 96));
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i), a);
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i + 32), b);
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i + 64), c);
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i + 96), e);
+      }
+      for (; i + 32 <= n; i += 32)
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i),
+                            _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i)));
+    }
+    if (i < n)
+      _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + n - 32),
+                          _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + n - 32)));
+  }
+}
+
+// ---- Row fill -----------------------------------------------------------------------------
+// A fill pattern of 1 to 32 bytes (a sample, or a C3/C4 pixel of any type), expanded once per
+// call into a block whose length is a multiple of both 32 and the pattern, so that the store
+// loop never shifts data. Pattern lengths that are not a divisor of 96 or 64 are not used.
+struct FillPattern {
+  alignas(32) unsigned char block[96 + 32];
+  int patternBytes;
+  int blockBytes;  // 32, 64 or 96
+
+  FillPattern(const void* pattern, int bytes) : patternBytes(bytes) {
+    blockBytes = (32 % bytes == 0) ? 32 : (64 % bytes == 0) ? 64 : 96;
+    const auto* p = static_cast<const unsigned char*>(pattern);
+    for (int i = 0; i < static_cast<int>(sizeof(block)); ++i) block[i] = p[i % bytes];
+  }
+};
+
+// Fills n bytes of d, which starts at phase 0 of the pattern; n is a multiple of the pattern
+// length. V = 32 bytes. Tail: scalar bytes. kStream: plain head up to a 32-byte boundary of d,
+// then non-temporal stores; the caller fences.
+template <Isa kI, bool kStream = false>
+inline void FillBytes(void* dst, std::size_t n, const FillPattern& pat) {
+  auto* d = static_cast<unsigned char*>(dst);
+  const std::size_t pb = static_cast<std::size_t>(pat.patternBytes);
+  if constexpr (kI == Isa::kScalar) {
+    for (std::size_t i = 0; i < n; ++i) d[i] = pat.block[i % pb];
+  } else {
+    std::size_t i = 0;
+    if constexpr (kStream) {
+      const std::size_t head = (0u - reinterpret_cast<std::uintptr_t>(d)) & 31u;
+      for (; i < head && i < n; ++i) d[i] = pat.block[i % pb];
+    }
+    // Byte i of d holds block[i % blockBytes]; 32 bytes from there are still inside block.
+    const std::size_t bb = static_cast<std::size_t>(pat.blockBytes);
+    auto at = [&pat, bb](std::size_t k) {
+      return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(pat.block + k % bb));
+    };
+    auto store = [d](std::size_t k, __m256i v) {
+      if constexpr (kStream)
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + k), v);
+      else
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + k), v);
+    };
+    const __m256i v0 = at(i), v1 = at(i + 32), v2 = at(i + 64);
+    if (bb == 96) {
+      for (; i + 96 <= n; i += 96) { store(i, v0); store(i + 32, v1); store(i + 64, v2); }
+    } else {  // 32 or 64: a step of 128 keeps the phase, and v2 equals v0
+      const __m256i v3 = at(i + 96);
+      for (; i + 128 <= n; i += 128) { store(i, v0); store(i + 32, v1); store(i + 64, v2); store(i + 96, v3); }
+    }
+    for (; i + 32 <= n; i += 32) store(i, at(i));
+    for (; i < n; ++i) d[i] = pat.block[i % pb];
+  }
+}
+
+}  // namespace tpx
