@@ -45,39 +45,26 @@ inline void CopyBytes(const void* src, void* dst, std::size_t n) {
       std::memcpy(d, s, n);
       return;
     }
+    auto load = [s](std::size_t k) { return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + k)); };
+    auto store = [d](std::size_t k, __m256i v) {
+      if constexpr (kStream)
+        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + k), v);
+      else
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + k), v);
+    };
     std::size_t i = 0;
-    if constexpr (kStream) {
-      const std::size_t head = (0u - reinterpret_cast<std::uintptr_t>(d)) & 31u;
-      _mm256_storeu_si256(reinterpret_cast<__m256i*>(d), _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s)));
-      i = head;
-      for (; i + 128 <= n; i += 128) {
-        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i));
-        const __m256i b = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 32));
-        const __m256i c = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 64));
-        const __m256i e = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 96));
-        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i), a);
-        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i + 32), b);
-        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i + 64), c);
-        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i + 96), e);
-      }
-      for (; i + 32 <= n; i += 32)
-        _mm256_stream_si256(reinterpret_cast<__m256i*>(d + i),
-                            _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i)));
-    } else {
-      for (; i + 128 <= n; i += 128) {
-        const __m256i a = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i));
-        const __m256i b = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 32));
-        const __m256i c = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 64));
-        const __m256i e = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i + 96));
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i), a);
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i + 32), b);
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i + 64), c);
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i + 96), e);
-      }
-      for (; i + 32 <= n; i += 32)
-        _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + i),
-                            _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + i)));
+    if constexpr (kStream) {  // plain head up to a 32-byte boundary of d
+      _mm256_storeu_si256(reinterpret_cast<__m256i*>(d), load(0));
+      i = (0u - reinterpret_cast<std::uintptr_t>(d)) & 31u;
     }
+    for (; i + 128 <= n; i += 128) {
+      const __m256i a = load(i), b = load(i + 32), c = load(i + 64), e = load(i + 96);
+      store(i, a);
+      store(i + 32, b);
+      store(i + 64, c);
+      store(i + 96, e);
+    }
+    for (; i + 32 <= n; i += 32) store(i, load(i));
     if (i < n)
       _mm256_storeu_si256(reinterpret_cast<__m256i*>(d + n - 32),
                           _mm256_loadu_si256(reinterpret_cast<const __m256i*>(s + n - 32)));
