@@ -1,0 +1,199 @@
+// Interleaved to planar and back (Copy C3P3R, C4P4R, P3C3R, P4C4R), with the driver that
+// streams the 32f members past their floor.
+#pragma once
+#include <immintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/isa.h"
+#include "core/region.h"
+#include "core/rows.h"
+#include "core/stream.h"
+#include "tpxip/types.h"
+
+namespace tpx {
+
+// pshufb controls for kC-channel samples of kS bytes: a block is kC vectors of interleaved data
+// and one vector of each plane (16 / kS pixels).
+template <int kS, int kC>
+struct PlanarShuffle {
+  // split[c][v]: plane c's bytes taken from interleaved vector v; join[v][c]: the reverse.
+  alignas(16) unsigned char split[kC][kC][16];
+  alignas(16) unsigned char join[kC][kC][16];
+  constexpr PlanarShuffle() : split{}, join{} {
+    for (int c = 0; c < kC; ++c)
+      for (int v = 0; v < kC; ++v)
+        for (int b = 0; b < 16; ++b) {
+          const int pos = (kC * (b / kS) + c) * kS + b % kS;  // byte of plane c's byte b in the block
+          split[c][v][b] = pos / 16 == v ? static_cast<unsigned char>(pos % 16) : 0x80;
+          const int at = 16 * v + b;  // interleaved byte at: pixel, channel, byte
+          const int sample = at / kS, pixel = sample / kC, ch = sample % kC;
+          join[v][c][b] = ch == c ? static_cast<unsigned char>(pixel * kS + at % kS) : 0x80;
+        }
+  }
+};
+template <int kS, int kC>
+inline constexpr PlanarShuffle<kS, kC> kPlanarShuffle{};
+
+// d[c][i] = s[kC * i + c], i < n, n >= 0. 32-bit samples: 8 pixels a step (AVX float shuffles,
+// which move bits unchanged); 8- and 16-bit: 16 / sizeof(T) pixels a step (pshufb, OR).
+// Tail: scalar.
+template <Isa kI, class T, int kC>
+inline void ToPlanarRow(const T* s, T* const* d, int n) {
+  int i = 0;
+  if constexpr (kI == Isa::kAvx && sizeof(T) == 4) {
+    for (; i + 8 <= n; i += 8) {
+      const float* p = reinterpret_cast<const float*>(s + kC * i);
+      if constexpr (kC == 3) {
+        __m256 m03 = _mm256_castps128_ps256(_mm_loadu_ps(p));            // x0 y0 z0 x1
+        __m256 m14 = _mm256_castps128_ps256(_mm_loadu_ps(p + 4));        // y1 z1 x2 y2
+        __m256 m25 = _mm256_castps128_ps256(_mm_loadu_ps(p + 8));        // z2 x3 y3 z3
+        m03 = _mm256_insertf128_ps(m03, _mm_loadu_ps(p + 12), 1);        // pixels 4..7 above
+        m14 = _mm256_insertf128_ps(m14, _mm_loadu_ps(p + 16), 1);
+        m25 = _mm256_insertf128_ps(m25, _mm_loadu_ps(p + 20), 1);
+        const __m256 xy = _mm256_shuffle_ps(m14, m25, _MM_SHUFFLE(2, 1, 3, 2));  // x2 y2 x3 y3
+        const __m256 yz = _mm256_shuffle_ps(m03, m14, _MM_SHUFFLE(1, 0, 2, 1));  // y0 z0 y1 z1
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[0] + i), _mm256_shuffle_ps(m03, xy, _MM_SHUFFLE(2, 0, 3, 0)));
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[1] + i), _mm256_shuffle_ps(yz, xy, _MM_SHUFFLE(3, 1, 2, 0)));
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[2] + i), _mm256_shuffle_ps(yz, m25, _MM_SHUFFLE(3, 0, 3, 1)));
+      } else {
+        __m256 r[4];
+        for (int k = 0; k < 4; ++k)  // pixel k below, pixel k + 4 above
+          r[k] = _mm256_insertf128_ps(_mm256_castps128_ps256(_mm_loadu_ps(p + 4 * k)), _mm_loadu_ps(p + 16 + 4 * k), 1);
+        const __m256 t0 = _mm256_unpacklo_ps(r[0], r[1]), t1 = _mm256_unpackhi_ps(r[0], r[1]);
+        const __m256 t2 = _mm256_unpacklo_ps(r[2], r[3]), t3 = _mm256_unpackhi_ps(r[2], r[3]);
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[0] + i), _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(1, 0, 1, 0)));
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[1] + i), _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(3, 2, 3, 2)));
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[2] + i), _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(1, 0, 1, 0)));
+        _mm256_storeu_ps(reinterpret_cast<float*>(d[3] + i), _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(3, 2, 3, 2)));
+      }
+    }
+  } else if constexpr (kI == Isa::kAvx) {
+    constexpr int kS = static_cast<int>(sizeof(T)), kPix = 16 / kS;
+    const auto& sh = kPlanarShuffle<kS, kC>;
+    for (; i + kPix <= n; i += kPix) {
+      __m128i in[kC];
+      for (int v = 0; v < kC; ++v) in[v] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s + kC * i) + v);
+      for (int c = 0; c < kC; ++c) {
+        __m128i o = _mm_setzero_si128();
+        for (int v = 0; v < kC; ++v)
+          o = _mm_or_si128(o, _mm_shuffle_epi8(in[v], _mm_load_si128(reinterpret_cast<const __m128i*>(sh.split[c][v]))));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d[c] + i), o);
+      }
+    }
+  }
+  for (; i < n; ++i)
+    for (int c = 0; c < kC; ++c) d[c][i] = s[kC * i + c];
+}
+
+// d[kC * i + c] = s[c][i], i < n, n >= 0. Same steps as ToPlanarRow. Tail: scalar.
+template <Isa kI, class T, int kC>
+inline void FromPlanarRow(const T* const* s, T* d, int n) {
+  int i = 0;
+  if constexpr (kI == Isa::kAvx && sizeof(T) == 4) {
+    for (; i + 8 <= n; i += 8) {
+      float* p = reinterpret_cast<float*>(d + kC * i);
+      const __m256 x = _mm256_loadu_ps(reinterpret_cast<const float*>(s[0] + i));
+      const __m256 y = _mm256_loadu_ps(reinterpret_cast<const float*>(s[1] + i));
+      const __m256 z = _mm256_loadu_ps(reinterpret_cast<const float*>(s[2] + i));
+      __m256 o[4];
+      if constexpr (kC == 3) {
+        const __m256 rxy = _mm256_shuffle_ps(x, y, _MM_SHUFFLE(2, 0, 2, 0));  // x0 x2 y0 y2
+        const __m256 ryz = _mm256_shuffle_ps(y, z, _MM_SHUFFLE(3, 1, 3, 1));  // y1 y3 z1 z3
+        const __m256 rzx = _mm256_shuffle_ps(z, x, _MM_SHUFFLE(3, 1, 2, 0));  // z0 z2 x1 x3
+        o[0] = _mm256_shuffle_ps(rxy, rzx, _MM_SHUFFLE(2, 0, 2, 0));          // x0 y0 z0 x1
+        o[1] = _mm256_shuffle_ps(ryz, rxy, _MM_SHUFFLE(3, 1, 2, 0));          // y1 z1 x2 y2
+        o[2] = _mm256_shuffle_ps(rzx, ryz, _MM_SHUFFLE(3, 1, 3, 1));          // z2 x3 y3 z3
+      } else {
+        const __m256 w = _mm256_loadu_ps(reinterpret_cast<const float*>(s[3] + i));
+        const __m256 t0 = _mm256_unpacklo_ps(x, y), t1 = _mm256_unpackhi_ps(x, y);
+        const __m256 t2 = _mm256_unpacklo_ps(z, w), t3 = _mm256_unpackhi_ps(z, w);
+        o[0] = _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(1, 0, 1, 0));  // pixel 0 | pixel 4
+        o[1] = _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(3, 2, 3, 2));
+        o[2] = _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(1, 0, 1, 0));
+        o[3] = _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(3, 2, 3, 2));
+      }
+      for (int k = 0; k < kC; ++k) _mm_storeu_ps(p + 4 * k, _mm256_castps256_ps128(o[k]));
+      for (int k = 0; k < kC; ++k) _mm_storeu_ps(p + 4 * kC + 4 * k, _mm256_extractf128_ps(o[k], 1));
+    }
+  } else if constexpr (kI == Isa::kAvx) {
+    constexpr int kS = static_cast<int>(sizeof(T)), kPix = 16 / kS;
+    const auto& sh = kPlanarShuffle<kS, kC>;
+    for (; i + kPix <= n; i += kPix) {
+      __m128i in[kC];
+      for (int c = 0; c < kC; ++c) in[c] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(s[c] + i));
+      for (int v = 0; v < kC; ++v) {
+        __m128i o = _mm_setzero_si128();
+        for (int c = 0; c < kC; ++c)
+          o = _mm_or_si128(o, _mm_shuffle_epi8(in[c], _mm_load_si128(reinterpret_cast<const __m128i*>(sh.join[v][c]))));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(d + kC * i) + v, o);
+      }
+    }
+  }
+  for (; i < n; ++i)
+    for (int c = 0; c < kC; ++c) d[kC * i + c] = s[c][i];
+}
+
+// Query floor of the streaming planar copies, in samples of the image.
+inline constexpr long long kPlanarStreamFloor = 0x80001;
+// Pixels a streaming step stages on the stack before the streaming copy writes them out.
+inline constexpr int kPlanarStage = 512;
+
+// Interleaved image s to planes d[0..kC). kMayStream: the two-stage cache test runs on the
+// image's samples, and a streaming call converts through a stack block and writes with the
+// streaming row copy.
+template <class T, int kC, bool kMayStream, Isa kI = kIsa>
+inline void ToPlanarImage(const T* s, std::ptrdiff_t ss, T* const* d, std::ptrdiff_t ds, TpxSize roi,
+                          CacheSizeQuery query = tpxGetMaxCacheSizeB) {
+  const long long samples = static_cast<long long>(roi.width) * roi.height * kC;
+  const bool stream = kMayStream && ChooseStreaming(samples, kPlanarStreamFloor, query);
+  T* planes[kC];
+  for (int c = 0; c < kC; ++c) planes[c] = d[c];
+  for (int y = 0; y < roi.height; ++y) {
+    if (!stream) {
+      ToPlanarRow<kI, T, kC>(s, planes, roi.width);
+    } else {
+      alignas(32) T stage[kC][kPlanarStage];
+      T* sp[kC];
+      for (int c = 0; c < kC; ++c) sp[c] = stage[c];
+      for (int x = 0; x < roi.width; x += kPlanarStage) {
+        const int n = roi.width - x < kPlanarStage ? roi.width - x : kPlanarStage;
+        ToPlanarRow<kI, T, kC>(s + kC * x, sp, n);
+        for (int c = 0; c < kC; ++c) CopyBytes<kI, true>(stage[c], planes[c] + x, n * sizeof(T));
+      }
+    }
+    s = Advance(s, ss);
+    for (int c = 0; c < kC; ++c) planes[c] = Advance(planes[c], ds);
+  }
+  if (stream) StreamFence();
+}
+
+// Planes s[0..kC) to the interleaved image d; streaming as in ToPlanarImage.
+template <class T, int kC, bool kMayStream, Isa kI = kIsa>
+inline void FromPlanarImage(const T* const* s, std::ptrdiff_t ss, T* d, std::ptrdiff_t ds, TpxSize roi,
+                            CacheSizeQuery query = tpxGetMaxCacheSizeB) {
+  const long long samples = static_cast<long long>(roi.width) * roi.height * kC;
+  const bool stream = kMayStream && ChooseStreaming(samples, kPlanarStreamFloor, query);
+  const T* planes[kC];
+  for (int c = 0; c < kC; ++c) planes[c] = s[c];
+  for (int y = 0; y < roi.height; ++y) {
+    if (!stream) {
+      FromPlanarRow<kI, T, kC>(planes, d, roi.width);
+    } else {
+      alignas(32) T stage[kC * kPlanarStage];
+      const T* sp[kC];
+      for (int x = 0; x < roi.width; x += kPlanarStage) {
+        const int n = roi.width - x < kPlanarStage ? roi.width - x : kPlanarStage;
+        for (int c = 0; c < kC; ++c) sp[c] = planes[c] + x;
+        FromPlanarRow<kI, T, kC>(sp, stage, n);
+        CopyBytes<kI, true>(stage, d + kC * x, static_cast<std::size_t>(n) * kC * sizeof(T));
+      }
+    }
+    d = Advance(d, ds);
+    for (int c = 0; c < kC; ++c) planes[c] = Advance(planes[c], ss);
+  }
+  if (stream) StreamFence();
+}
+
+}  // namespace tpx
