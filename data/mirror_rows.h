@@ -133,8 +133,7 @@ inline void SwapRows(T* a, T* b, int w) {
         _mm256_storeu_ps(reinterpret_cast<float*>(ab + k), y);
         _mm256_storeu_ps(reinterpret_cast<float*>(bb + k), x);
       }
-      i = static_cast<int>(k / kPb);
-      for (k = static_cast<std::ptrdiff_t>(i) * kPb; k < bytes; ++k) {  // the rest of a pixel first
+      for (; k < bytes; ++k) {
         const unsigned char t = ab[k];
         ab[k] = bb[k];
         bb[k] = t;
