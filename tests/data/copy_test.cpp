@@ -348,7 +348,7 @@ template <class T, tpx::Layout kL>
 void MaskTwin(Rng& rng) {
   constexpr int S = tpx::Stride(kL);
   for (int n = 0; n <= 3 * 16 + 3; ++n) {
-    std::vector<T> s(n * S + 1), a(n * S + 1), b;
+    std::vector<T> s(n * S + 4), a(n * S + 1), b;  // a fill reads one pixel of s
     std::vector<Tpx8u> m(n + 1);
     for (auto& v : s) v = rng.Sample<T>();
     for (auto& v : a) v = rng.Sample<T>();

@@ -100,7 +100,7 @@ TYPED_TEST(SetTest, CheckOrderPointersThenSize) {
   const Tpx8u m[2] = {1, 1};
   EXPECT_EQ(tpxErrNullPtr, Api<T>::c1(v[0], nullptr, 1, TpxSize{0, 0}));
   EXPECT_EQ(tpxErrSize, Api<T>::c1(v[0], buf, 1, TpxSize{0, 1}));
-  EXPECT_EQ(tpxOk, Api<T>::c1(v[0], buf, -3, TpxSize{1, 2}));  // no step check
+  EXPECT_EQ(tpxOk, Api<T>::c1(v[0], buf + 4, -3, TpxSize{1, 2}));  // no step check
   for (int l = 0; l < 3; ++l) {
     EXPECT_EQ(tpxErrNullPtr, Api<T>::byPtr[l](nullptr, buf, 1, TpxSize{0, 0}));  // the value pointer counts
     EXPECT_EQ(tpxErrNullPtr, Api<T>::byPtrM[l](v, buf, 1, TpxSize{-1, 0}, nullptr, 1));
