@@ -67,10 +67,7 @@ const int kRegistered = [] {
       },
       [](Images& s) { s.dst.setTo(cv::Scalar(1, 2, 3, 4)); });
 
-  auto planes = [](Images& s) {
-    s.planes.assign(3, cv::Mat());
-    for (auto& p : s.planes) p.create(s.src.rows, s.src.cols, CV_32FC1);
-  };
+  auto planes = [](Images& s) { cv::split(s.src, s.planes); };  // planes with data, not fresh pages
   Add("Copy/32f_C3P3R", CV_32FC3, 12,
       [](Images& s) {
         Tpx32f* d[3] = {P<Tpx32f>(s.planes[0]), P<Tpx32f>(s.planes[1]), P<Tpx32f>(s.planes[2])};

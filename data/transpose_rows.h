@@ -162,8 +162,10 @@ inline void TransposeTile(const unsigned char* s, std::ptrdiff_t ss, unsigned ch
   constexpr int kB = TransposeBlockEdge(kE);
   if constexpr (kI == Isa::kAvx && kB > 0) {
     const int rb = rows - rows % kB, cb = cols - cols % kB;
-    for (int r = 0; r < rb; r += kB)
-      for (int c = 0; c < cb; c += kB) TransposeBlock<kE, kRev, kA>(src(r, c), ss, dst(c, r), ds);
+    // Blocks go down the tile's columns: the destination rows of one column of blocks are
+    // written from left to right while the source is read down the column.
+    for (int c = 0; c < cb; c += kB)
+      for (int r = 0; r < rb; r += kB) TransposeBlock<kE, kRev, kA>(src(r, c), ss, dst(c, r), ds);
     elements(0, rb, cb, cols);
     elements(rb, rows, 0, cols);
   } else {
