@@ -47,28 +47,23 @@ struct Api;
     static constexpr auto p3c3 = tpxiCopy_##TT##_P3C3R;                                                    \
     static constexpr auto p4c4 = tpxiCopy_##TT##_P4C4R;                                                    \
   };
-TPX_COPY_API(8u)
-TPX_COPY_API(16u)
-TPX_COPY_API(16s)
-TPX_COPY_API(32s)
-TPX_COPY_API(32f)
+DATATEST_TYPES(TPX_COPY_API)
 
-constexpr int kChannels[4] = {1, 3, 4, 4};
-constexpr int kProcessed[4] = {1, 3, 4, 3};
+using datatest::kLayoutChannels;
+using datatest::kLayoutWritten;
 
 template <class T>
 constexpr int Vec() { return static_cast<int>(32 / sizeof(T)); }
 
 template <class T>
 class CopyTest : public ::testing::Test {};
-using Types = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
-TYPED_TEST_SUITE(CopyTest, Types);
+TYPED_TEST_SUITE(CopyTest, datatest::AllTypes);
 
 TYPED_TEST(CopyTest, PlainAndMaskedEveryLayout) {
   using T = TypeParam;
   Rng rng(101);
   for (int l = 0; l < 4; ++l) {
-    const int ch = kChannels[l], proc = kProcessed[l];
+    const int ch = kLayoutChannels[l], proc = kLayoutWritten[l];
     SCOPED_TRACE(l);
     datatest::Sweep<T>(ch, ch, Vec<T>(), rng,
         [&](GuardedImage<T>& s, GuardedImage<T>& d) { return Api<T>::plain[l](s.Data(), s.Step(), d.Data(), d.Step(), d.Size()); },
@@ -177,7 +172,7 @@ TYPED_TEST(CopyTest, TwinsNarrowOrWalkRowByRow) {
   using T = TypeParam;
   Rng rng(404);
   for (int l = 0; l < 4; ++l) {
-    const int ch = kChannels[l];
+    const int ch = kLayoutChannels[l];
     GuardedImage<T> src(77, 1, ch), a(77, 1, ch), b(77, 1, ch);
     tpxtest::FillRandom(src, rng);
     tpxtest::FillRandom(a, rng);

@@ -17,6 +17,14 @@ namespace datatest {
 using tpxtest::GuardedImage;
 using tpxtest::Rng;
 
+// The sample types of the family, for member tables and typed tests.
+#define DATATEST_TYPES(X) X(8u) X(16u) X(16s) X(32s) X(32f)
+using AllTypes = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
+
+// Layouts C1, C3, C4, AC4 in this order: samples a pixel and samples an operation writes.
+inline constexpr int kLayoutChannels[4] = {1, 3, 4, 4};
+inline constexpr int kLayoutWritten[4] = {1, 3, 4, 3};
+
 inline int CacheTiny(int* size) { *size = 1; return 0; }            // every call past a floor streams
 inline int CacheUnknown(int* size) { *size = 0; return -1; }        // plain stores
 inline int CacheHuge(int* size) { *size = 0x7fffffff; return 0; }   // plain stores, query succeeds

@@ -31,14 +31,10 @@ struct Api;
     static constexpr IpFn<Tpx##TT> in[4] = {tpxiMirror_##TT##_C1IR, tpxiMirror_##TT##_C3IR,                    \
                                             tpxiMirror_##TT##_C4IR, tpxiMirror_##TT##_AC4IR};                  \
   };
-TPX_MIRROR_API(8u)
-TPX_MIRROR_API(16u)
-TPX_MIRROR_API(16s)
-TPX_MIRROR_API(32s)
-TPX_MIRROR_API(32f)
+DATATEST_TYPES(TPX_MIRROR_API)
 
-constexpr int kChannels[4] = {1, 3, 4, 4};
-constexpr int kProcessed[4] = {1, 3, 4, 3};
+using datatest::kLayoutChannels;
+using datatest::kLayoutWritten;
 
 // Expected image of axis 0, 1 or 2 (same extents) or 3, 4 (extents swapped) over `before`.
 template <class T>
@@ -60,22 +56,21 @@ Plain<T> Mirrored(const Plain<T>& s, Plain<T> d, int flip, int proc) {
 
 template <class T>
 class MirrorTest : public ::testing::Test {};
-using Types = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
-TYPED_TEST_SUITE(MirrorTest, Types);
+TYPED_TEST_SUITE(MirrorTest, datatest::AllTypes);
 
 TYPED_TEST(MirrorTest, EveryAxisAndLayout) {
   using T = TypeParam;
   Rng rng(51);
   for (int l = 0; l < 4; ++l)
     for (int flip = 0; flip <= 4; ++flip) {
-      const int ch = kChannels[l];
+      const int ch = kLayoutChannels[l];
       for (const tpxtest::Shape sh : tpxtest::Shapes(16, {97, 130})) {
         const bool diag = flip >= 3;
         GuardedImage<T> src(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
         GuardedImage<T> dst(diag ? sh.height : sh.width, diag ? sh.width : sh.height, ch, (sh.padSamples + 1) % 6, (sh.misalign + 2) % 5);
         tpxtest::FillRandom(src, rng);
         tpxtest::FillRandom(dst, rng);
-        const Plain<T> want = Mirrored(Plain<T>(src), Plain<T>(dst), flip, kProcessed[l]);
+        const Plain<T> want = Mirrored(Plain<T>(src), Plain<T>(dst), flip, kLayoutWritten[l]);
         ASSERT_EQ(tpxOk, Api<T>::out[l](src.Data(), src.Step(), dst.Data(), dst.Step(), src.Size(), flip));
         ASSERT_TRUE(Same(dst, want)) << "flip " << flip << " C" << ch << " " << sh.width << "x" << sh.height;
         if (diag) continue;
@@ -83,7 +78,7 @@ TYPED_TEST(MirrorTest, EveryAxisAndLayout) {
         GuardedImage<T> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign), b(sh.width, sh.height, ch, 1, 0);
         a.CopyFrom(src);
         b.CopyFrom(src);
-        const Plain<T> wantIp = Mirrored(Plain<T>(src), Plain<T>(src), flip, kProcessed[l]);
+        const Plain<T> wantIp = Mirrored(Plain<T>(src), Plain<T>(src), flip, kLayoutWritten[l]);
         ASSERT_EQ(tpxOk, Api<T>::in[l](a.Data(), a.Step(), a.Size(), flip));
         ASSERT_TRUE(Same(a, wantIp)) << "in place, flip " << flip << " C" << ch << " " << sh.width << "x" << sh.height;
         ASSERT_EQ(tpxOk, Api<T>::out[l](b.Data(), b.Step(), b.Data(), b.Step(), b.Size(), flip));

@@ -27,26 +27,20 @@ struct Api;
     static constexpr TpxStatus (*byPtrM[3])(const Tpx##TT*, Tpx##TT*, int, TpxSize, const Tpx8u*, int) = { \
         tpxiSet_##TT##_C3MR, tpxiSet_##TT##_C4MR, tpxiSet_##TT##_AC4MR};                         \
   };
-TPX_SET_API(8u)
-TPX_SET_API(16u)
-TPX_SET_API(16s)
-TPX_SET_API(32s)
-TPX_SET_API(32f)
+DATATEST_TYPES(TPX_SET_API)
 
 template <class T>
 class SetTest : public ::testing::Test {};
-using Types = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
-TYPED_TEST_SUITE(SetTest, Types);
+TYPED_TEST_SUITE(SetTest, datatest::AllTypes);
 
-// Layouts C1, C3, C4, AC4: samples a pixel and samples written.
-constexpr int kChannels[4] = {1, 3, 4, 4};
-constexpr int kWritten[4] = {1, 3, 4, 3};
+using datatest::kLayoutChannels;
+using datatest::kLayoutWritten;
 
 TYPED_TEST(SetTest, PlainAndMaskedEveryLayout) {
   using T = TypeParam;
   Rng rng(21);
   for (int l = 0; l < 4; ++l) {
-    const int ch = kChannels[l];
+    const int ch = kLayoutChannels[l];
     for (bool masked : {false, true}) {
       T value[4];
       std::unique_ptr<GuardedImage<Tpx8u>> mask;
@@ -68,7 +62,7 @@ TYPED_TEST(SetTest, PlainAndMaskedEveryLayout) {
             for (int y = 0; y < s.h; ++y)
               for (int x = 0; x < s.w; ++x)
                 if (!masked || mask->At(x, y))
-                  for (int c = 0; c < kWritten[l]; ++c) want.At(x, y, c) = value[c];
+                  for (int c = 0; c < kLayoutWritten[l]; ++c) want.At(x, y, c) = value[c];
           });
     }
   }

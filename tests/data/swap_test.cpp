@@ -24,16 +24,11 @@ struct Api;
     static constexpr Fn<Tpx##TT> c4c3 = tpxiSwapChannels_##TT##_C4C3R;                   \
     static constexpr auto c3c4 = tpxiSwapChannels_##TT##_C3C4R;                          \
   };
-TPX_SWAP_API(8u)
-TPX_SWAP_API(16u)
-TPX_SWAP_API(16s)
-TPX_SWAP_API(32s)
-TPX_SWAP_API(32f)
+DATATEST_TYPES(TPX_SWAP_API)
 
 template <class T>
 class SwapTest : public ::testing::Test {};
-using Types = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
-TYPED_TEST_SUITE(SwapTest, Types);
+TYPED_TEST_SUITE(SwapTest, datatest::AllTypes);
 
 TYPED_TEST(SwapTest, EveryFormAgainstReference) {
   using T = TypeParam;

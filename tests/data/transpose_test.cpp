@@ -33,11 +33,7 @@ struct Api;
     static constexpr IpFn<Tpx##TT> in[3] = {tpxiTranspose_##TT##_C1IR, tpxiTranspose_##TT##_C3IR,          \
                                             tpxiTranspose_##TT##_C4IR};                                    \
   };
-TPX_TRANSPOSE_API(8u)
-TPX_TRANSPOSE_API(16u)
-TPX_TRANSPOSE_API(16s)
-TPX_TRANSPOSE_API(32s)
-TPX_TRANSPOSE_API(32f)
+DATATEST_TYPES(TPX_TRANSPOSE_API)
 
 constexpr int kChannels[3] = {1, 3, 4};
 
@@ -55,8 +51,7 @@ Plain<T> Transposed(const Plain<T>& s, Plain<T> d) {
 
 template <class T>
 class TransposeTest : public ::testing::Test {};
-using Types = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
-TYPED_TEST_SUITE(TransposeTest, Types);
+TYPED_TEST_SUITE(TransposeTest, datatest::AllTypes);
 
 TYPED_TEST(TransposeTest, OutOfPlaceAgainstReference) {
   using T = TypeParam;
