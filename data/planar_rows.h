@@ -114,8 +114,17 @@ inline void FromPlanarRow(const T* const* s, T* d, int n) {
         o[2] = _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(1, 0, 1, 0));
         o[3] = _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(3, 2, 3, 2));
       }
-      for (int k = 0; k < kC; ++k) _mm_storeu_ps(p + 4 * k, _mm256_castps256_ps128(o[k]));
-      for (int k = 0; k < kC; ++k) _mm_storeu_ps(p + 4 * kC + 4 * k, _mm256_extractf128_ps(o[k], 1));
+      // o[k] holds pixels 0..3 below and 4..7 above: pair the halves into whole 32-byte stores.
+      if constexpr (kC == 3) {
+        _mm256_storeu_ps(p, _mm256_permute2f128_ps(o[0], o[1], 0x20));
+        _mm256_storeu_ps(p + 8, _mm256_permute2f128_ps(o[2], o[0], 0x30));
+        _mm256_storeu_ps(p + 16, _mm256_permute2f128_ps(o[1], o[2], 0x31));
+      } else {
+        _mm256_storeu_ps(p, _mm256_permute2f128_ps(o[0], o[1], 0x20));
+        _mm256_storeu_ps(p + 8, _mm256_permute2f128_ps(o[2], o[3], 0x20));
+        _mm256_storeu_ps(p + 16, _mm256_permute2f128_ps(o[0], o[1], 0x31));
+        _mm256_storeu_ps(p + 24, _mm256_permute2f128_ps(o[2], o[3], 0x31));
+      }
     }
   } else if constexpr (kI == Isa::kAvx) {
     constexpr int kS = static_cast<int>(sizeof(T)), kPix = 16 / kS;
