@@ -28,23 +28,6 @@ void FillZero(T* d, std::ptrdiff_t dStep, TpxSize roi) {
     ZeroRegion<T, kL>(d, dStep, roi);
 }
 
-// Calls run(op) with the operation of sf's kernel; false where the result is all 0.
-template <Op kOp, class T, bool kConst, class Run>
-bool WithSfKernel(int sf, Run&& run) {
-  switch (ClassifySf<kOp, T, kConst>(sf)) {
-    case SfKernel::kZeroFill: return false;
-    case SfKernel::kPlain: run(SfsOp<kOp, T, SfKernel::kPlain>{}); break;
-    case SfKernel::kHalf: run(SfsOp<kOp, T, SfKernel::kHalf>{}); break;
-    case SfKernel::kGeneral: run(SfsOp<kOp, T, SfKernel::kGeneral>{}); break;
-    case SfKernel::kBit31:
-      if constexpr (kOp == Op::kMul && std::is_same_v<T, Tpx16u>) run(SfsOp<kOp, T, SfKernel::kBit31>{});
-      break;
-    case SfKernel::kShiftUp: run(SfsOp<kOp, T, SfKernel::kShiftUp>{}); break;
-    case SfKernel::kSaturate: run(SfsOp<kOp, T, SfKernel::kSaturate>{}); break;
-  }
-  return true;
-}
-
 // Two images. Checks: pointers, size; no step check. x is the minuend of Sub: pSrc2, or pSrcDst
 // in place; y is pSrc1 or pSrc. The C3 and C4 members of 32f are wrappers that widen the row of
 // the C1 path and so test the width before anything else.

@@ -294,4 +294,22 @@ struct FloatOp {
   }
 };
 
+// ---- Kernel choice -----------------------------------------------------------------------------
+// Calls run(op) with the operation of sf's kernel; false where the result is all 0.
+template <Op kOp, class T, bool kConst, class Run>
+inline bool WithSfKernel(int sf, Run&& run) {
+  switch (ClassifySf<kOp, T, kConst>(sf)) {
+    case SfKernel::kZeroFill: return false;
+    case SfKernel::kPlain: run(SfsOp<kOp, T, SfKernel::kPlain>{}); break;
+    case SfKernel::kHalf: run(SfsOp<kOp, T, SfKernel::kHalf>{}); break;
+    case SfKernel::kGeneral: run(SfsOp<kOp, T, SfKernel::kGeneral>{}); break;
+    case SfKernel::kBit31:
+      if constexpr (kOp == Op::kMul && std::is_same_v<T, Tpx16u>) run(SfsOp<kOp, T, SfKernel::kBit31>{});
+      break;
+    case SfKernel::kShiftUp: run(SfsOp<kOp, T, SfKernel::kShiftUp>{}); break;
+    case SfKernel::kSaturate: run(SfsOp<kOp, T, SfKernel::kSaturate>{}); break;
+  }
+  return true;
+}
+
 }  // namespace tpx::arith
