@@ -196,7 +196,7 @@ void Order() {
     EXPECT_EQ(m.call(buf, 4, nullptr, buf, 4, TpxSize{0, 1}, 1), tpxErrNullPtr) << m.name;
     EXPECT_EQ(m.call(buf, 4, c, nullptr, 4, TpxSize{1, 0}, 1), tpxErrNullPtr) << m.name;
     EXPECT_EQ(m.call(buf, 4, c, buf, 4, TpxSize{1, 0}, 1), tpxErrSize) << m.name;
-    EXPECT_EQ(m.call(buf, -4, c, buf, 0, TpxSize{1, 2}, 99), tpxOk) << m.name;  // no step or mode check
+    EXPECT_EQ(m.call(buf + 8, -4, c, buf + 8, 0, TpxSize{1, 2}, 99), tpxOk) << m.name;  // no step or mode check
   }
 }
 
