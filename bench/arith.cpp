@@ -49,34 +49,23 @@ void Add(const std::string& name, int type, int elemBytes, Bw bw, std::function<
   tpxbench::Register(c);
 }
 
+using Sfs8u = TpxStatus (*)(const Tpx8u*, int, const Tpx8u*, int, Tpx8u*, int, TpxSize, int);
+std::function<void(Images&)> Call8u(Sfs8u f, int sf) {
+  return [f, sf](Images& s) { f(P<Tpx8u>(s.a), s.step, P<Tpx8u>(s.b), s.step, P<Tpx8u>(s.d), s.step, s.roi, sf); };
+}
+
 const int kRegistered = [] {
   const Bw r2w1 = Bw::kTwoReadsOneWrite;
   for (int sf : {0, 1}) {
     const std::string tail = "/8u_C1RSfs/sf" + std::to_string(sf);
-    Add("Add" + tail, CV_8UC1, 1, r2w1,
-        [sf](Images& s) {
-          tpxiAdd_8u_C1RSfs(P<Tpx8u>(s.a), s.step, P<Tpx8u>(s.b), s.step, P<Tpx8u>(s.d), s.step, s.roi, sf);
-        },
-        [sf](Images& s) {
-          if (sf == 0)
-            cv::add(s.a, s.b, s.d);
-          else
-            cv::addWeighted(s.a, 0.5, s.b, 0.5, 0.0, s.d);
-        });
-    Add("Sub" + tail, CV_8UC1, 1, r2w1,
-        [sf](Images& s) {
-          tpxiSub_8u_C1RSfs(P<Tpx8u>(s.a), s.step, P<Tpx8u>(s.b), s.step, P<Tpx8u>(s.d), s.step, s.roi, sf);
-        },
-        [sf](Images& s) {
-          if (sf == 0)
-            cv::subtract(s.b, s.a, s.d);
-          else
-            cv::addWeighted(s.b, 0.5, s.a, -0.5, 0.0, s.d);
-        });
-    Add("Mul" + tail, CV_8UC1, 1, r2w1,
-        [sf](Images& s) {
-          tpxiMul_8u_C1RSfs(P<Tpx8u>(s.a), s.step, P<Tpx8u>(s.b), s.step, P<Tpx8u>(s.d), s.step, s.roi, sf);
-        },
+    // OpenCV has no scaled add or subtract: the weighted sum with weights 0.5 is the peer at sf 1.
+    Add("Add" + tail, CV_8UC1, 1, r2w1, Call8u(tpxiAdd_8u_C1RSfs, sf), [sf](Images& s) {
+      sf == 0 ? cv::add(s.a, s.b, s.d) : cv::addWeighted(s.a, 0.5, s.b, 0.5, 0.0, s.d);
+    });
+    Add("Sub" + tail, CV_8UC1, 1, r2w1, Call8u(tpxiSub_8u_C1RSfs, sf), [sf](Images& s) {
+      sf == 0 ? cv::subtract(s.b, s.a, s.d) : cv::addWeighted(s.b, 0.5, s.a, -0.5, 0.0, s.d);
+    });
+    Add("Mul" + tail, CV_8UC1, 1, r2w1, Call8u(tpxiMul_8u_C1RSfs, sf),
         [sf](Images& s) { cv::multiply(s.a, s.b, s.d, sf == 0 ? 1.0 : 0.5); });
   }
   Add("Add/16s_C1RSfs/sf0", CV_16SC1, 2, r2w1,

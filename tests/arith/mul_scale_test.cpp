@@ -7,6 +7,7 @@
 
 #include "arith/mul_scale_rows.h"
 #include "arith/point_rows.h"
+#include "pairs.h"
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
@@ -41,11 +42,7 @@ TEST(MulScaleRule, WorkedValues) {
 template <class T>
 void Pairs(const std::vector<T>& values) {
   std::vector<T> x, y;
-  for (T a : values)
-    for (T b : values) {
-      x.push_back(a);
-      y.push_back(b);
-    }
+  CrossPairs(values, x, y);
   // Every length's tail, then the whole set.
   for (std::ptrdiff_t n : {std::ptrdiff_t(0), std::ptrdiff_t(1), std::ptrdiff_t(7), std::ptrdiff_t(23),
                            std::ptrdiff_t(49), static_cast<std::ptrdiff_t>(x.size())}) {

@@ -12,6 +12,7 @@
 #include "arith/point_rows.h"
 #include "arith/scaled_rows.h"
 #include "far_rows.h"
+#include "pairs.h"
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
@@ -180,11 +181,7 @@ TEST(ScaledKernels, AvxEqualsScalarAndModel16s) {
 template <Op kOp, class T>
 void DensePairs(const std::vector<T>& values) {
   std::vector<T> x, y;
-  for (T a : values)
-    for (T b : values) {
-      x.push_back(a);
-      y.push_back(b);
-    }
+  CrossPairs(values, x, y);
   const std::ptrdiff_t n = static_cast<std::ptrdiff_t>(x.size());
   std::vector<T> d(n);
   for (int sf : kSfs) {
