@@ -548,4 +548,49 @@ TEST(ScaledExports, LTwinsWalkRowsBeyondA32BitStep) {
   LTwinWalk<Tpx32f>(44);
 }
 
+// ---- OpenCV as an independent oracle where its rounding is the same --------------------------------
+#ifdef TPX_HAVE_OPENCV
+template <class T>
+void OpenCvSaturating(int cvType, std::uint64_t seed) {
+  using Fn = TpxStatus (*)(const T*, int, const T*, int, T*, int, TpxSize, int);
+  Fn add, sub, mul;
+  if constexpr (std::is_same_v<T, Tpx8u>) add = tpxiAdd_8u_C1RSfs, sub = tpxiSub_8u_C1RSfs, mul = tpxiMul_8u_C1RSfs;
+  if constexpr (std::is_same_v<T, Tpx16u>) add = tpxiAdd_16u_C1RSfs, sub = tpxiSub_16u_C1RSfs, mul = tpxiMul_16u_C1RSfs;
+  if constexpr (std::is_same_v<T, Tpx16s>) add = tpxiAdd_16s_C1RSfs, sub = tpxiSub_16s_C1RSfs, mul = tpxiMul_16s_C1RSfs;
+  cv::RNG rng(seed);
+  cv::Mat a(37, 71, cvType), b(37, 71, cvType), d(37, 71, cvType), want;
+  rng.fill(a, cv::RNG::UNIFORM, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max() + 1.0);
+  rng.fill(b, cv::RNG::UNIFORM, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max() + 1.0);
+  const int st = static_cast<int>(a.step[0]);
+  const TpxSize roi{a.cols, a.rows};
+  auto same = [&](const char* what) { EXPECT_EQ(cv::norm(d, want, cv::NORM_INF), 0) << what; };
+  ASSERT_EQ(add(a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, roi, 0), tpxOk);
+  cv::add(a, b, want);
+  same("add");
+  ASSERT_EQ(sub(a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, roi, 0), tpxOk);
+  cv::subtract(b, a, want);  // the first image is the subtrahend
+  same("sub");
+  ASSERT_EQ(mul(a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, roi, 0), tpxOk);
+  cv::multiply(a, b, want);
+  same("mul");
+  if constexpr (std::is_same_v<T, Tpx8u>) {
+    // 8u products scaled by a power of two are exact in float, and OpenCV rounds them half even.
+    for (int sf = 1; sf <= 9; ++sf) {
+      ASSERT_EQ(mul(a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, roi, sf), tpxOk);
+      cv::multiply(a, b, want, 1.0 / (1 << sf));
+      same("mul scaled");
+    }
+    ASSERT_EQ(add(a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, roi, 1), tpxOk);
+    cv::addWeighted(a, 0.5, b, 0.5, 0.0, want);
+    same("add sf 1");
+  }
+}
+
+TEST(ScaledOracle, OpenCvAgrees) {
+  OpenCvSaturating<Tpx8u>(CV_8UC1, 81);
+  OpenCvSaturating<Tpx16u>(CV_16UC1, 82);
+  OpenCvSaturating<Tpx16s>(CV_16SC1, 83);
+}
+#endif
+
 }  // namespace
