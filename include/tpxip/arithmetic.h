@@ -12,7 +12,9 @@ extern "C" {
    Every scale factor has a defined effect (negative ones shift left and saturate). 32f members
    compute in single precision without saturation. AC4 leaves the fourth sample of each
    destination pixel as it was. Checks: null pointers, then an extent below 1; no step check
-   (a step of 0 or below is used as given). _L twins take 64-bit steps and TpxSizeL. */
+   (a step of 0 or below is used as given). The two-image C3 and C4 members of 32f widen the row
+   of their C1 form and test the width before the pointers. _L twins take 64-bit steps and
+   TpxSizeL. */
 
 /* Sum of two images: pSrc1 + pSrc2, in place pSrcDst + pSrc. */
 TPXAPI TpxStatus tpxiAdd_8u_C1RSfs(const Tpx8u* pSrc1, int src1Step, const Tpx8u* pSrc2, int src2Step, Tpx8u* pDst, int dstStep, TpxSize roiSize, int scaleFactor);
@@ -432,7 +434,7 @@ TPXAPI TpxStatus tpxiMulScale_16u_C4IR(const Tpx16u* pSrc, int srcStep, Tpx16u* 
 TPXAPI TpxStatus tpxiMulScale_16u_AC4R(const Tpx16u* pSrc1, int src1Step, const Tpx16u* pSrc2, int src2Step, Tpx16u* pDst, int dstStep, TpxSize roiSize);
 TPXAPI TpxStatus tpxiMulScale_16u_AC4IR(const Tpx16u* pSrc, int srcStep, Tpx16u* pSrcDst, int srcDstStep, TpxSize roiSize);
 
-/* The same with a constant as the second operand. */
+/* The same with a constant as the second operand; all members check pointers, step, size. */
 TPXAPI TpxStatus tpxiMulCScale_8u_C1R(const Tpx8u* pSrc, int srcStep, Tpx8u value, Tpx8u* pDst, int dstStep, TpxSize roiSize);
 TPXAPI TpxStatus tpxiMulCScale_8u_C1IR(Tpx8u value, Tpx8u* pSrcDst, int srcDstStep, TpxSize roiSize);
 TPXAPI TpxStatus tpxiMulCScale_8u_C3R(const Tpx8u* pSrc, int srcStep, const Tpx8u value[3], Tpx8u* pDst, int dstStep, TpxSize roiSize);
