@@ -1,0 +1,210 @@
+// MulC64f: a model of the double product, float narrowing, float clamp and the rounding modes,
+// computed under the rounding direction each mode runs under; kernel twins; every member with
+// guards; the caller's rounding control kept; check order.
+#include <gtest/gtest.h>
+#include <xmmintrin.h>
+
+#include <cfenv>
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+#include "arith/mulc64f_rows.h"
+#include "core/fpround.h"
+#include "support/image.h"
+#include "support/random.h"
+#include "support/sweep.h"
+#include "tpxip.h"
+
+namespace {
+
+using namespace tpx;
+using namespace tpx::arith;
+using namespace tpxtest;
+
+const int kDirs[] = {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO};
+
+unsigned CsrRounding() { return _mm_getcsr() & _MM_ROUND_MASK; }
+
+// The direction the product, the narrowing and (but for mode 2) the conversion run under.
+int DirectionOf(int mode, int callerDir) {
+  return mode == 0 ? FE_DOWNWARD : mode == 1 ? FE_TONEAREST : callerDir;
+}
+
+template <class T>
+T Model(T x, double c, int mode, int callerDir) {
+  const int dir = std::is_same_v<T, float> ? callerDir : DirectionOf(mode, callerDir);
+  const int saved = std::fegetround();
+  std::fesetround(dir);
+  volatile double xd = static_cast<double>(x), cd = c;
+  volatile float f = static_cast<float>(xd * cd);
+  std::fesetround(saved);
+  if constexpr (std::is_same_v<T, float>) {
+    return f;
+  } else {
+    const float lo = static_cast<float>(std::numeric_limits<T>::lowest());
+    const float hi = static_cast<float>(std::numeric_limits<T>::max());
+    const double g = std::isnan(f) ? lo : f < lo ? lo : f > hi ? hi : f;  // a NaN takes the low end
+    if (mode == 2) return static_cast<T>(std::trunc(g + 0.5));
+    const double r = dir == FE_DOWNWARD ? std::floor(g)
+                   : dir == FE_UPWARD   ? std::ceil(g)
+                   : dir == FE_TOWARDZERO ? std::trunc(g)
+                   : g - std::floor(g) == 0.5 ? 2 * std::floor(std::floor(g) / 2 + 0.5) : std::round(g);
+    return static_cast<T>(r);
+  }
+}
+
+TEST(MulC64fModel, WorkedValues) {
+  EXPECT_EQ(Model<Tpx8u>(5, 0.5, 1, FE_TONEAREST), 2);
+  EXPECT_EQ(Model<Tpx8u>(5, 0.5, 2, FE_TONEAREST), 3);
+  EXPECT_EQ(Model<Tpx8u>(7, 0.5, 0, FE_TONEAREST), 3);
+  EXPECT_EQ(Model<Tpx8u>(255, 2.0, 1, FE_TONEAREST), 255);
+  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 0, FE_TONEAREST), -3);  // round down, not toward zero
+  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 1, FE_TONEAREST), -2);
+  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 2, FE_TONEAREST), -2);  // -2.5 + 0.5 truncated
+  EXPECT_EQ(Model<Tpx16s>(-7, 0.5, 2, FE_TONEAREST), -3);
+  EXPECT_EQ(Model<Tpx16s>(-32768, 1.0, 2, FE_TONEAREST), -32767);
+  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 5, FE_UPWARD), -2);     // another mode: the caller's direction
+  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 5, FE_DOWNWARD), -3);
+  EXPECT_EQ(Model<Tpx16u>(3, -1.0, 1, FE_TONEAREST), 0);
+  EXPECT_EQ(Model<Tpx8u>(3, NAN, 1, FE_TONEAREST), 0);
+}
+
+// ---- Kernel twins --------------------------------------------------------------------------------
+template <class T, int kP, Conv64f kConv>
+void Twin(Rng& rng) {
+  const double c[4] = {0.5, -1.25, 3.0000001, 1.0 / 3};
+  const Const64f<kP> k(c);
+  for (int n = 0; n <= 3 * 8 + 3; ++n) {
+    std::vector<T> x(n + 1), s(n + 4, T(5)), a(n + 4, T(5));
+    for (T& v : x) v = rng.Chance(0.2) ? Extremes<T>()[rng.Int(0, 7)] : rng.Sample<T>();
+    MulC64fRow<T, kP, kConv, Isa::kScalar>(x.data() + 1, k, s.data(), n);
+    MulC64fRow<T, kP, kConv, Isa::kAvx>(x.data() + 1, k, a.data(), n);
+    for (std::size_t i = 0; i < s.size(); ++i)
+      ASSERT_TRUE(std::memcmp(&s[i], &a[i], sizeof(T)) == 0 || (s[i] != s[i] && a[i] != a[i])) << n << " " << i;
+    for (std::size_t i = n; i < a.size(); ++i) ASSERT_EQ(a[i], T(5));
+  }
+}
+
+template <class T>
+void TwinsUnderEveryDirection() {
+  Rng rng(61);
+  for (int dir : kDirs) {
+    const int saved = std::fegetround();
+    std::fesetround(dir);
+    Twin<T, 1, Conv64f::kDirection>(rng);
+    Twin<T, 3, Conv64f::kDirection>(rng);
+    Twin<T, 4, Conv64f::kAddHalf>(rng);
+    Twin<T, 3, Conv64f::kAddHalf>(rng);
+    std::fesetround(saved);
+  }
+}
+
+TEST(MulC64fKernels, AvxEqualsScalar) {
+  TwinsUnderEveryDirection<Tpx8u>();
+  TwinsUnderEveryDirection<Tpx16u>();
+  TwinsUnderEveryDirection<Tpx16s>();
+  TwinsUnderEveryDirection<Tpx32f>();
+}
+
+// ---- Members -----------------------------------------------------------------------------------
+template <class T>
+struct Member {
+  const char* name;
+  int channels;
+  bool inPlace;
+  TpxStatus (*call)(const T* s, int ss, const Tpx64f* v, T* d, int ds, TpxSize roi, int mode);
+};
+#define MC_MEMBER(T, L, N)                                                                            \
+  {"MulC64f_" #T "_" #L "R", N, false,                                                                \
+   [](const Tpx##T* s, int ss, const Tpx64f* v, Tpx##T* d, int ds, TpxSize roi, int mode) {           \
+     return tpxiMulC64f_##T##_##L##R(s, ss, v, d, ds, roi, tpxAlgHintNone, mode);                     \
+   }},                                                                                                \
+      {"MulC64f_" #T "_" #L "IR", N, true,                                                            \
+       [](const Tpx##T*, int, const Tpx64f* v, Tpx##T* d, int ds, TpxSize roi, int mode) {            \
+         return tpxiMulC64f_##T##_##L##IR(v, d, ds, roi, tpxAlgHintAccurate, mode);                   \
+       }},
+#define MC_TYPE(T) MC_MEMBER(T, C1, 1) MC_MEMBER(T, C3, 3) MC_MEMBER(T, C4, 4)
+
+template <class T>
+std::vector<Member<T>> Members();
+template <>
+std::vector<Member<Tpx8u>> Members() { return {MC_TYPE(8u)}; }
+template <>
+std::vector<Member<Tpx16u>> Members() { return {MC_TYPE(16u)}; }
+template <>
+std::vector<Member<Tpx16s>> Members() { return {MC_TYPE(16s)}; }
+template <>
+std::vector<Member<Tpx32f>> Members() { return {MC_TYPE(32f)}; }
+
+const double kConstants[] = {0.5, 1.5, -0.5, 0.25, 1.0 / 3, 2.0000001, 255.5 / 255, 1e10, -1e10, -2.5,
+                             1.0, 0.0, 65535.0 / 3, 1e-3, NAN};
+const int kModes[] = {0, 1, 2, 3, -5, 16};
+
+template <class T>
+void Sweep(std::uint64_t seed) {
+  Rng rng(seed);
+  const std::vector<Shape> shapes = Shapes(8);
+  int pick = 0;
+  for (const Member<T>& m : Members<T>()) {
+    for (const Shape& s : shapes) {
+      for (int rep = 0; rep < 2; ++rep, ++pick) {
+        const int mode = kModes[pick % 6];
+        const int callerDir = kDirs[(pick / 6) % 4];
+        GuardedImage<T> a(s.width, s.height, m.channels, s.padSamples, s.misalign);
+        GuardedImage<T> d(s.width, s.height, m.channels, s.padSamples + 2, (s.misalign + 1) % 4);
+        FillRandom(a, rng);
+        FillRandom(d, rng);
+        double c[4];
+        for (double& v : c) v = rng.Chance(0.6) ? kConstants[rng.Int(0, 14)] : rng.Real(-4, 4);
+        std::vector<T> want;
+        for (int y = 0; y < s.height; ++y)
+          for (int i = 0; i < s.width * m.channels; ++i)
+            want.push_back(Model<T>(m.inPlace ? d.Row(y)[i] : a.Row(y)[i], c[i % m.channels], mode, callerDir));
+        const int saved = std::fegetround();
+        std::fesetround(callerDir);
+        const unsigned before = CsrRounding();
+        const TpxStatus st = m.call(a.Data(), a.Step(), c, d.Data(), d.Step(), d.Size(), mode);
+        const unsigned after = CsrRounding();
+        std::fesetround(saved);
+        ASSERT_EQ(st, tpxOk) << m.name;
+        ASSERT_EQ(before, after) << m.name << " changed the caller's rounding control";
+        const std::vector<T> got = d.Samples();
+        for (std::size_t i = 0; i < got.size(); ++i)
+          ASSERT_TRUE(std::memcmp(&got[i], &want[i], sizeof(T)) == 0 || (got[i] != got[i] && want[i] != want[i]))
+              << m.name << " mode=" << mode << " dir=" << callerDir << " i=" << i << " got " << +got[i]
+              << " want " << +want[i];
+        ASSERT_TRUE(a.GuardsIntact() && d.GuardsIntact()) << m.name;
+      }
+    }
+  }
+}
+
+TEST(MulC64fExports, EveryMemberMatchesTheModel) {
+  Sweep<Tpx8u>(71);
+  Sweep<Tpx16u>(72);
+  Sweep<Tpx16s>(73);
+  Sweep<Tpx32f>(74);
+}
+
+template <class T>
+void Order() {
+  T buf[16] = {};
+  const double c[4] = {1, 2, 3, 4};
+  for (const Member<T>& m : Members<T>()) {
+    if (!m.inPlace) EXPECT_EQ(m.call(nullptr, 4, c, buf, 4, TpxSize{0, 1}, 1), tpxErrNullPtr) << m.name;
+    EXPECT_EQ(m.call(buf, 4, nullptr, buf, 4, TpxSize{0, 1}, 1), tpxErrNullPtr) << m.name;
+    EXPECT_EQ(m.call(buf, 4, c, nullptr, 4, TpxSize{1, 0}, 1), tpxErrNullPtr) << m.name;
+    EXPECT_EQ(m.call(buf, 4, c, buf, 4, TpxSize{1, 0}, 1), tpxErrSize) << m.name;
+    EXPECT_EQ(m.call(buf + 8, -4, c, buf + 8, 0, TpxSize{1, 2}, 99), tpxOk) << m.name;  // no step or mode check
+  }
+}
+
+TEST(MulC64fExports, NullBeforeSizeNoStepOrModeCheck) {
+  Order<Tpx8u>();
+  Order<Tpx16u>();
+  Order<Tpx16s>();
+  Order<Tpx32f>();
+}
+
+}  // namespace
