@@ -355,14 +355,18 @@ TEST(SumExports, CheckOrders) {
   EXPECT_EQ(tpxErrNullPtr, tpxiSum_8u_C1R(nullptr, 1, empty, r));
   EXPECT_EQ(tpxErrNullPtr, tpxiSum_8u_C3R(px, 1, empty, nullptr));
   EXPECT_EQ(tpxErrSize, tpxiSum_32f_C4R(fx, -5, TpxSize{1, 0}, r, 0));
-  EXPECT_EQ(tpxOk, tpxiSum_16s_C1R(reinterpret_cast<Tpx16s*>(px), -7, TpxSize{1, 2}, r));
+  const Tpx16s up[4] = {-3, 0, 0, 10};
+  EXPECT_EQ(tpxOk, tpxiSum_16s_C1R(up + 3, -6, TpxSize{1, 2}, r));  // rows up[3], up[0]
+  EXPECT_EQ(7.0, r[0]);
   // Mean: its own pointer first, then the sum's checks as they stand; nothing written on failure.
   r[0] = 42;
   EXPECT_EQ(tpxErrNullPtr, tpxiMean_8u_C1R(nullptr, 1, empty, nullptr));
   EXPECT_EQ(tpxErrNullPtr, tpxiMean_32f_C1R(nullptr, 1, empty, r, 0));
   EXPECT_EQ(tpxErrSize, tpxiMean_32f_C3R(fx, 0, empty, r, 2));
   EXPECT_EQ(42, r[0]);
-  EXPECT_EQ(tpxOk, tpxiMean_16u_C4R(reinterpret_cast<Tpx16u*>(px), 0, ok, r));
+  const Tpx16u px16[4] = {1, 2, 3, 4};
+  EXPECT_EQ(tpxOk, tpxiMean_16u_C4R(px16, 0, ok, r));
+  EXPECT_EQ(4.0, r[3]);
 }
 
 }  // namespace
