@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "core/isa.h"
+#include "stats/lanes.h"
 #include "tpxip/types.h"
 
 namespace tpx::stats {
@@ -59,15 +60,18 @@ class RangeCounter {
     const int blocks = n / kBlock;
     if constexpr (sizeof(T) == 1) {
       __m128i lo[kVecs], span[kVecs], keep[kVecs], acc[kVecs];
+      TPX_UNROLL
       for (int k = 0; k < kVecs; ++k) {
         lo[k] = Load8(laneLo_ + k * kN);
         span[k] = Load8(laneSpan_ + k * kN);
         keep[k] = Load8(laneKeep_ + k * kN);
       }
       for (int b = 0; b < blocks;) {
+        TPX_UNROLL
         for (auto& a : acc) a = _mm_setzero_si128();
         const int stop = blocks - b > 255 ? b + 255 : blocks;
         for (; b < stop; ++b)
+          TPX_UNROLL
           for (int k = 0; k < kVecs; ++k) {
             const __m128i d = _mm_sub_epi8(Load8(p + b * kBlock + k * kN), lo[k]);
             __m128i in = _mm_cmpeq_epi8(_mm_min_epu8(d, span[k]), d);
@@ -79,6 +83,7 @@ class RangeCounter {
           cnt[0] += _mm_cvtsi128_si64(s) + _mm_cvtsi128_si64(_mm_unpackhi_epi64(s, s));
         } else {
           alignas(16) std::uint8_t lanes[kBlock];
+          TPX_UNROLL
           for (int k = 0; k < kVecs; ++k) _mm_store_si128(reinterpret_cast<__m128i*>(lanes + k * kN), acc[k]);
           for (int j = 0; j < kBlock; ++j) cnt[j % kS] += lanes[j];
         }
@@ -86,20 +91,24 @@ class RangeCounter {
     } else {
       const __m256 one = _mm256_set1_ps(1.0f);
       __m256 lo[kVecs], hi[kVecs], acc[kVecs];
+      TPX_UNROLL
       for (int k = 0; k < kVecs; ++k) {
         lo[k] = _mm256_load_ps(laneLo_ + k * kN);
         hi[k] = _mm256_load_ps(laneHi_ + k * kN);
       }
       for (int b = 0; b < blocks;) {
+        TPX_UNROLL
         for (auto& a : acc) a = _mm256_setzero_ps();
         const int stop = blocks - b > 65536 ? b + 65536 : blocks;
         for (; b < stop; ++b)
+          TPX_UNROLL
           for (int k = 0; k < kVecs; ++k) {
             const __m256 x = _mm256_loadu_ps(p + b * kBlock + k * kN);
             const __m256 in = _mm256_and_ps(_mm256_cmp_ps(x, lo[k], _CMP_GE_OQ), _mm256_cmp_ps(x, hi[k], _CMP_LE_OQ));
             acc[k] = _mm256_add_ps(acc[k], _mm256_and_ps(in, one));
           }
         alignas(32) float lanes[kBlock];
+        TPX_UNROLL
         for (int k = 0; k < kVecs; ++k) _mm256_store_ps(lanes + k * kN, acc[k]);
         for (int j = 0; j < kBlock; ++j) cnt[j % kS] += static_cast<long long>(lanes[j]);
       }

@@ -14,6 +14,9 @@
 #include "core/isa.h"
 #include "tpxip/types.h"
 
+// Loops over the vectors of a block are unrolled, so that their accumulators live in registers.
+#define TPX_UNROLL _Pragma("GCC unroll 16")
+
 namespace tpx::stats {
 
 // ---- Vector views of the sample types ------------------------------------------------------
@@ -140,16 +143,19 @@ inline void SweepLanes(const typename P1::Sample* p, int n, typename P1::Acc* l1
   if constexpr (kI == Isa::kAvx) {
     if (n >= kBlock) {
       typename P1::V a[kVecs], b[kVecs];
+      TPX_UNROLL
       for (int k = 0; k < kVecs; ++k) {
         a[k] = P1::Load(l1 + k * kN);
         if constexpr (kTwo) b[k] = P2::Load(l2 + k * kN);
       }
       for (; i + kBlock <= n; i += kBlock)
+        TPX_UNROLL
         for (int k = 0; k < kVecs; ++k) {
           const auto x = P1::LoadSamples(p + i + k * kN);
           a[k] = P1::Step(a[k], x);
           if constexpr (kTwo) b[k] = P2::Step(b[k], x);
         }
+      TPX_UNROLL
       for (int k = 0; k < kVecs; ++k) {
         P1::Store(l1 + k * kN, a[k]);
         if constexpr (kTwo) P2::Store(l2 + k * kN, b[k]);
@@ -171,6 +177,7 @@ inline long long StartLanes(const typename P::Sample* row, long long n, typename
   constexpr int kN = P::kN, kBlock = kVecs * kN;
   if constexpr (kI == Isa::kAvx) {
     if (n >= kBlock) {
+      TPX_UNROLL
       for (int k = 0; k < kVecs; ++k) P::Store(lanes + k * kN, P::LoadSamples(row + k * kN));
       return kBlock;
     }
@@ -213,12 +220,17 @@ inline void FoldLanes(typename P::Acc* lanes, typename P::Acc* out) {
   static_assert(kVecs % kP == 0, "a block holds whole periods");
   if constexpr (kI == Isa::kAvx) {
     typename P::V v[kP];
+    TPX_UNROLL
     for (int k = 0; k < kP; ++k) v[k] = P::Load(lanes + k * kN);
+    TPX_UNROLL
     for (int u = 1; u < kVecs / kP; ++u)
+      TPX_UNROLL
       for (int k = 0; k < kP; ++k) v[k] = P::Join(v[k], P::Load(lanes + (u * kP + k) * kN));
     if constexpr (kS != 3) v[0] = HalveDown<P, kN / 2, kS>(v[0]);
+    TPX_UNROLL
     for (int k = 0; k < kP; ++k) P::Store(lanes + k * kN, v[k]);
   } else {
+    TPX_UNROLL
     for (int u = 1; u < kVecs / kP; ++u)
       for (int j = 0; j < kP * kN; ++j) lanes[j] = P::Join(lanes[j], lanes[u * kP * kN + j]);
     if constexpr (kS != 3)

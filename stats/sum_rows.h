@@ -48,20 +48,14 @@ inline void SumRowExact(const T* p, int n, long long* tot) {
                                       std::conditional_t<std::is_signed_v<T>, std::int32_t, std::uint32_t>>;
       // Lane j of acc[h] holds block sample h * kWide + j: storing acc in order gives the block.
       __m128i acc[2 * kVecs];
-      auto empty = [&]() {
-        alignas(16) Wide w[2 * kVecs * kWide];
-        for (int h = 0; h < 2 * kVecs; ++h) {
-          _mm_store_si128(reinterpret_cast<__m128i*>(w + h * kWide), acc[h]);
-          acc[h] = zero;
-        }
-        for (int j = 0; j < kBlock; ++j) tot[j % kS] += w[j];
-      };
+      TPX_UNROLL
       for (auto& a : acc) a = zero;
       // 16-bit lanes take 255 at most a block; 32-bit lanes a stripe.
       constexpr int kFlush = sizeof(T) == 1 ? 256 : kSumStripe<kS>;
       while (i + kBlock <= n) {
         const int stop = (n - i) / kBlock > kFlush ? i + kFlush * kBlock : n - kBlock + 1;
         for (; i < stop; i += kBlock)
+          TPX_UNROLL
           for (int k = 0; k < kVecs; ++k) {
             const __m128i v = load(i + k * (16 / static_cast<int>(sizeof(T))));
             __m128i lo, hi;
@@ -82,7 +76,13 @@ inline void SumRowExact(const T* p, int n, long long* tot) {
               acc[2 * k + 1] = _mm_add_epi32(acc[2 * k + 1], hi);
             }
           }
-        empty();
+        alignas(16) Wide w[2 * kVecs * kWide];
+        TPX_UNROLL
+        for (int h = 0; h < 2 * kVecs; ++h) {
+          _mm_store_si128(reinterpret_cast<__m128i*>(w + h * kWide), acc[h]);
+          acc[h] = zero;
+        }
+        for (int j = 0; j < kBlock; ++j) tot[j % kS] += w[j];
       }
     }
   }
