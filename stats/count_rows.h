@@ -12,6 +12,17 @@
 
 namespace tpx::stats {
 
+template <bool kBytes>
+struct CountLanes {
+  using V = __m128i;
+  using Lane = std::uint8_t;
+};
+template <>
+struct CountLanes<false> {
+  using V = __m256;
+  using Lane = float;
+};
+
 // Counts, for i < n, the samples p[i] with lo[c] <= p[i] <= hi[c], c = i % kS, into cnt[c];
 // with kAlpha the fourth sample of each pixel never counts. Float comparisons are ordered: NaN
 // never counts. The lane bounds of one block (one pixel period of vectors) are built once.
@@ -22,7 +33,7 @@ template <class T, int kS, bool kAlpha>
 class RangeCounter {
  public:
   static constexpr int kN = sizeof(T) == 1 ? 16 : 8;  // lanes a vector
-  static constexpr int kVecs = kS == 3 ? 3 : 1;
+  static constexpr int kVecs = kS == 3 ? 3 : 2;  // whole pixel periods, two chains at least
   static constexpr int kBlock = kVecs * kN;
 
   RangeCounter(const T* lo, const T* hi) {
@@ -55,63 +66,54 @@ class RangeCounter {
   }
 
  private:
+  // Counts of one block in lanes: 8-bit lanes for 8u (emptied every 255 blocks), Tpx32f lanes
+  // for 32f (exact, emptied every 65536 blocks).
+  using V = typename CountLanes<sizeof(T) == 1>::V;
+  using Lane = typename CountLanes<sizeof(T) == 1>::Lane;
+  static constexpr int kEmptyEvery = sizeof(T) == 1 ? 255 : 65536;
+
+  // acc plus one in each lane whose sample (vector k of the block at p) is inside its bounds.
+  V CountIn(V acc, const T* p, int k) const {
+    if constexpr (sizeof(T) == 1) {
+      const __m128i d = _mm_sub_epi8(Load8(p), Load8(laneLo_ + k * kN));
+      __m128i in = _mm_cmpeq_epi8(_mm_min_epu8(d, Load8(laneSpan_ + k * kN)), d);
+      if constexpr (kAlpha) in = _mm_and_si128(in, Load8(laneKeep_ + k * kN));
+      return _mm_sub_epi8(acc, in);
+    } else {
+      const __m256 x = _mm256_loadu_ps(p);
+      const __m256 in = _mm256_and_ps(_mm256_cmp_ps(x, _mm256_load_ps(laneLo_ + k * kN), _CMP_GE_OQ),
+                                      _mm256_cmp_ps(x, _mm256_load_ps(laneHi_ + k * kN), _CMP_LE_OQ));
+      return _mm256_add_ps(acc, _mm256_and_ps(in, _mm256_set1_ps(1.0f)));
+    }
+  }
+  // Adds the lane counts to cnt[lane % kS].
+  static void Empty(const V* acc, long long* cnt) {
+    if constexpr (sizeof(T) == 1 && kS == 1) {
+      __m128i s = _mm_setzero_si128();
+      TPX_UNROLL
+      for (int k = 0; k < kVecs; ++k) s = _mm_add_epi64(s, _mm_sad_epu8(acc[k], _mm_setzero_si128()));
+      cnt[0] += _mm_cvtsi128_si64(s) + _mm_cvtsi128_si64(_mm_unpackhi_epi64(s, s));
+    } else {
+      alignas(32) Lane lanes[kBlock];
+      TPX_UNROLL
+      for (int k = 0; k < kVecs; ++k) {
+        if constexpr (sizeof(T) == 1) _mm_store_si128(reinterpret_cast<__m128i*>(lanes + k * kN), acc[k]);
+        else _mm256_store_ps(lanes + k * kN, acc[k]);
+      }
+      for (int j = 0; j < kBlock; ++j) cnt[j % kS] += static_cast<long long>(lanes[j]);
+    }
+  }
   // Whole blocks; returns the samples done.
   int VectorBlocks(const T* p, int n, long long* cnt) const {
     const int blocks = n / kBlock;
-    if constexpr (sizeof(T) == 1) {
-      __m128i lo[kVecs], span[kVecs], keep[kVecs], acc[kVecs];
+    for (int b = 0; b < blocks;) {
+      V acc[kVecs];
       TPX_UNROLL
-      for (int k = 0; k < kVecs; ++k) {
-        lo[k] = Load8(laneLo_ + k * kN);
-        span[k] = Load8(laneSpan_ + k * kN);
-        keep[k] = Load8(laneKeep_ + k * kN);
-      }
-      for (int b = 0; b < blocks;) {
+      for (auto& a : acc) a = V{};
+      for (const int stop = blocks - b > kEmptyEvery ? b + kEmptyEvery : blocks; b < stop; ++b)
         TPX_UNROLL
-        for (auto& a : acc) a = _mm_setzero_si128();
-        const int stop = blocks - b > 255 ? b + 255 : blocks;
-        for (; b < stop; ++b)
-          TPX_UNROLL
-          for (int k = 0; k < kVecs; ++k) {
-            const __m128i d = _mm_sub_epi8(Load8(p + b * kBlock + k * kN), lo[k]);
-            __m128i in = _mm_cmpeq_epi8(_mm_min_epu8(d, span[k]), d);
-            if constexpr (kAlpha) in = _mm_and_si128(in, keep[k]);
-            acc[k] = _mm_sub_epi8(acc[k], in);
-          }
-        if constexpr (kS == 1) {
-          const __m128i s = _mm_sad_epu8(acc[0], _mm_setzero_si128());
-          cnt[0] += _mm_cvtsi128_si64(s) + _mm_cvtsi128_si64(_mm_unpackhi_epi64(s, s));
-        } else {
-          alignas(16) std::uint8_t lanes[kBlock];
-          TPX_UNROLL
-          for (int k = 0; k < kVecs; ++k) _mm_store_si128(reinterpret_cast<__m128i*>(lanes + k * kN), acc[k]);
-          for (int j = 0; j < kBlock; ++j) cnt[j % kS] += lanes[j];
-        }
-      }
-    } else {
-      const __m256 one = _mm256_set1_ps(1.0f);
-      __m256 lo[kVecs], hi[kVecs], acc[kVecs];
-      TPX_UNROLL
-      for (int k = 0; k < kVecs; ++k) {
-        lo[k] = _mm256_load_ps(laneLo_ + k * kN);
-        hi[k] = _mm256_load_ps(laneHi_ + k * kN);
-      }
-      for (int b = 0; b < blocks;) {
-        TPX_UNROLL
-        for (auto& a : acc) a = _mm256_setzero_ps();
-        const int stop = blocks - b > 65536 ? b + 65536 : blocks;
-        for (; b < stop; ++b)
-          TPX_UNROLL
-          for (int k = 0; k < kVecs; ++k) {
-            const __m256 x = _mm256_loadu_ps(p + b * kBlock + k * kN);
-            const __m256 in = _mm256_and_ps(_mm256_cmp_ps(x, lo[k], _CMP_GE_OQ), _mm256_cmp_ps(x, hi[k], _CMP_LE_OQ));
-            acc[k] = _mm256_add_ps(acc[k], _mm256_and_ps(in, one));
-          }
-        alignas(32) float lanes[kBlock];
-        TPX_UNROLL
-        for (int k = 0; k < kVecs; ++k) _mm256_store_ps(lanes + k * kN, acc[k]);
-        for (int j = 0; j < kBlock; ++j) cnt[j % kS] += static_cast<long long>(lanes[j]);
-      }
+        for (int k = 0; k < kVecs; ++k) acc[k] = CountIn(acc[k], p + b * kBlock + k * kN, k);
+      Empty(acc, cnt);
     }
     return blocks * kBlock;
   }

@@ -81,29 +81,30 @@ struct VecOf<Tpx64f> {
 // from LoadSamples) into an accumulator; Join folds one accumulator into another. The scalar
 // form is the rule, the vector form the instruction that computes it lane by lane.
 
-// Minimum as the vector instruction takes it: the accumulator stays only if strictly smaller.
-template <class T>
-struct MinLanes : VecOf<T> {
+// Minimum and maximum as the vector instructions take them: the accumulator stays only if it
+// is strictly smaller (larger); otherwise the sample is taken, NaN and zeros of either sign too.
+template <class T, bool kMax>
+struct ExtremeLanes : VecOf<T> {
   using Sample = T;
   using Acc = T;
   using typename VecOf<T>::V;
   static V LoadSamples(const T* p) { return VecOf<T>::Load(p); }
-  static T Step(T a, T x) { return a < x ? a : x; }
-  static V Step(V a, V x) { return VecOf<T>::Min(a, x); }
+  static T Step(T a, T x) {
+    if constexpr (kMax) return a > x ? a : x;
+    else return a < x ? a : x;
+  }
+  static V Step(V a, V x) {
+    if constexpr (kMax) return VecOf<T>::Max(a, x);
+    else return VecOf<T>::Min(a, x);
+  }
   static T Join(T a, T b) { return Step(a, b); }
   static V Join(V a, V b) { return Step(a, b); }
 };
 template <class T>
-struct MaxLanes : VecOf<T> {
-  using Sample = T;
-  using Acc = T;
-  using typename VecOf<T>::V;
-  static V LoadSamples(const T* p) { return VecOf<T>::Load(p); }
-  static T Step(T a, T x) { return a > x ? a : x; }
-  static V Step(V a, V x) { return VecOf<T>::Max(a, x); }
-  static T Join(T a, T b) { return Step(a, b); }
-  static V Join(V a, V b) { return Step(a, b); }
-};
+using MinLanes = ExtremeLanes<T, false>;
+template <class T>
+using MaxLanes = ExtremeLanes<T, true>;
+
 // Float samples added in Tpx32f.
 struct AddLanes32f : VecOf<Tpx32f> {
   using Sample = Tpx32f;
