@@ -110,9 +110,11 @@ class RangeCounter {
       V acc[kVecs];
       TPX_UNROLL
       for (auto& a : acc) a = V{};
-      for (const int stop = blocks - b > kEmptyEvery ? b + kEmptyEvery : blocks; b < stop; ++b)
+      for (const int stop = blocks - b > kEmptyEvery ? b + kEmptyEvery : blocks; b < stop; ++b) {
+        PrefetchAhead<kBlock * sizeof(T)>(p + b * kBlock);
         TPX_UNROLL
         for (int k = 0; k < kVecs; ++k) acc[k] = CountIn(acc[k], p + b * kBlock + k * kN, k);
+      }
       Empty(acc, cnt);
     }
     return blocks * kBlock;

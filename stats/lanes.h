@@ -19,6 +19,18 @@
 
 namespace tpx::stats {
 
+// The reductions read each sample once. Alone, the hardware streams leave one core well short
+// of the memory bandwidth, so every vector loop also asks for the lines kPrefetchAhead bytes
+// further on, one request per 64-byte line of what it reads. A prefetch never faults: it may
+// point past the row or the image.
+inline constexpr std::uintptr_t kPrefetchAhead = 4096;
+template <int kBytes>
+inline void PrefetchAhead(const void* p) {
+  const std::uintptr_t a = reinterpret_cast<std::uintptr_t>(p) + kPrefetchAhead;
+  TPX_UNROLL
+  for (int b = 0; b < kBytes; b += 64) _mm_prefetch(reinterpret_cast<const char*>(a + b), _MM_HINT_T0);
+}
+
 // ---- Vector views of the sample types ------------------------------------------------------
 // Down<h>(v): a vector whose lane j is lane j + h of v, for j < h (the other lanes are free).
 template <class T>
@@ -149,13 +161,15 @@ inline void SweepLanes(const typename P1::Sample* p, int n, typename P1::Acc* l1
         a[k] = P1::Load(l1 + k * kN);
         if constexpr (kTwo) b[k] = P2::Load(l2 + k * kN);
       }
-      for (; i + kBlock <= n; i += kBlock)
+      for (; i + kBlock <= n; i += kBlock) {
+        PrefetchAhead<kBlock * sizeof(*p)>(p + i);
         TPX_UNROLL
         for (int k = 0; k < kVecs; ++k) {
           const auto x = P1::LoadSamples(p + i + k * kN);
           a[k] = P1::Step(a[k], x);
           if constexpr (kTwo) b[k] = P2::Step(b[k], x);
         }
+      }
       TPX_UNROLL
       for (int k = 0; k < kVecs; ++k) {
         P1::Store(l1 + k * kN, a[k]);

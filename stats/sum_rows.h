@@ -32,6 +32,7 @@ inline void SumRowExact(const T* p, int n, long long* tot) {
     if constexpr (sizeof(T) == 1 && kS == 1) {
       __m128i s0 = zero, s1 = zero;
       for (; i + 64 <= n; i += 64) {
+        PrefetchAhead<64>(p + i);
         s0 = _mm_add_epi64(s0, _mm_sad_epu8(load(i), zero));
         s1 = _mm_add_epi64(s1, _mm_sad_epu8(load(i + 16), zero));
         s0 = _mm_add_epi64(s0, _mm_sad_epu8(load(i + 32), zero));
@@ -41,7 +42,7 @@ inline void SumRowExact(const T* p, int n, long long* tot) {
       s0 = _mm_add_epi64(s0, s1);
       tot[0] += _mm_cvtsi128_si64(s0) + _mm_cvtsi128_si64(_mm_unpackhi_epi64(s0, s0));
     } else {
-      constexpr int kVecs = kS == 3 ? 3 : 1;           // vectors a block
+      constexpr int kVecs = kS == 3 ? 3 : 4;  // vectors a block: whole pixel periods
       constexpr int kBlock = kVecs * (16 / static_cast<int>(sizeof(T)));  // samples a block
       constexpr int kWide = 16 / (2 * static_cast<int>(sizeof(T)));     // lanes of a half
       using Wide = std::conditional_t<sizeof(T) == 1, std::uint16_t,
@@ -54,7 +55,8 @@ inline void SumRowExact(const T* p, int n, long long* tot) {
       constexpr int kFlush = sizeof(T) == 1 ? 256 : kSumStripe<kS>;
       while (i + kBlock <= n) {
         const int stop = (n - i) / kBlock > kFlush ? i + kFlush * kBlock : n - kBlock + 1;
-        for (; i < stop; i += kBlock)
+        for (; i < stop; i += kBlock) {
+          PrefetchAhead<kVecs * 16>(p + i);
           TPX_UNROLL
           for (int k = 0; k < kVecs; ++k) {
             const __m128i v = load(i + k * (16 / static_cast<int>(sizeof(T))));
@@ -76,6 +78,7 @@ inline void SumRowExact(const T* p, int n, long long* tot) {
               acc[2 * k + 1] = _mm_add_epi32(acc[2 * k + 1], hi);
             }
           }
+        }
         alignas(16) Wide w[2 * kVecs * kWide];
         TPX_UNROLL
         for (int h = 0; h < 2 * kVecs; ++h) {
@@ -154,8 +157,10 @@ inline void SumRowFast32f(const Tpx32f* p, int w, FastLanes32f& l) {
     __m256 a = _mm256_load_ps(l.a);
     __m128 b = _mm_load_ps(l.b);
     for (; i < pre; ++i) b = _mm_add_ss(b, _mm_load_ss(p + i));
-    for (const int stop = pre + n / 16 * 16; i < stop; i += 16)
+    for (const int stop = pre + n / 16 * 16; i < stop; i += 16) {
+      PrefetchAhead<64>(p + i);
       a = _mm256_add_ps(a, _mm256_add_ps(_mm256_loadu_ps(p + i), _mm256_loadu_ps(p + i + 8)));
+    }
     if (eight) {
       a = _mm256_add_ps(a, _mm256_loadu_ps(p + i));
       i += 8;
@@ -209,8 +214,10 @@ inline void SumRowAccurate32f(const Tpx32f* p, int w, double* d) {
       acc = _mm256_blend_pd(acc, _mm256_castpd128_pd256(lo), 1);
     };
     for (; i < pre; ++i) single(i);
-    for (; i < stop; i += 8)
+    for (; i < stop; i += 8) {
+      PrefetchAhead<32>(p + i);
       acc = _mm256_add_pd(acc, _mm256_add_pd(_mm256_cvtps_pd(_mm_loadu_ps(p + i)), _mm256_cvtps_pd(_mm_loadu_ps(p + i + 4))));
+    }
     for (; i < w; ++i) single(i);
     _mm256_storeu_pd(d, acc);
   } else {
