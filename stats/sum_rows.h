@@ -21,8 +21,8 @@ inline constexpr int kSumStripe = 32768 / kS * kS;
 // tot[i % kS] += p[i] for i < n, exactly. 0 <= n <= kSumStripe<kS>, n a multiple of kS.
 // AVX, 8u one channel: _mm_sad_epu8 straight into 64-bit lanes. Other 8u layouts: bytes widened
 // into 16-bit lanes, emptied every 256 blocks. 16-bit samples: widened into 32-bit lanes, which
-// hold a whole stripe. A block is one vector, or three for three samples a pixel, so that each
-// lane keeps one channel. Tail: scalar, same sums.
+// hold a whole stripe. A block is four vectors, or three for three samples a pixel, so that
+// each lane keeps one channel. Tail: scalar, same sums.
 template <Isa kI, class T, int kS>
 inline void SumRowExact(const T* p, int n, long long* tot) {
   int i = 0;
