@@ -130,9 +130,8 @@ inline int RoundToI32(float y) {
   } else if constexpr (kR == RoundKind::kNearest) {
     return _mm_cvtss_si32(v);
   } else {
-    const __m128 sign = _mm_set_ss(-0.0f);
-    const __m128 mag = _mm_add_ss(_mm_andnot_ps(sign, v), _mm_set_ss(0.5f));
-    return _mm_cvttss_si32(_mm_or_ps(mag, _mm_and_ps(sign, v)));
+    const __m128 half = _mm_or_ps(_mm_and_ps(_mm_set_ss(-0.0f), v), _mm_set_ss(0.5f));
+    return _mm_cvttss_si32(_mm_add_ss(v, half));
   }
 }
 template <RoundKind kR>
@@ -143,9 +142,8 @@ inline int RoundToI32(double y) {
   } else if constexpr (kR == RoundKind::kNearest) {
     return _mm_cvtsd_si32(v);
   } else {
-    const __m128d sign = _mm_set_sd(-0.0);
-    const __m128d mag = _mm_add_sd(_mm_andnot_pd(sign, v), _mm_set_sd(0.5));
-    return _mm_cvttsd_si32(_mm_or_pd(mag, _mm_and_pd(sign, v)));
+    const __m128d half = _mm_or_pd(_mm_and_pd(_mm_set_sd(-0.0), v), _mm_set_sd(0.5));
+    return _mm_cvttsd_si32(_mm_add_sd(v, half));
   }
 }
 
@@ -180,9 +178,9 @@ inline __m256i RoundToI32(__m256 y) {
   } else if constexpr (kR == RoundKind::kNearest) {
     return _mm256_cvtps_epi32(y);
   } else {
-    const __m256 sign = _mm256_set1_ps(-0.0f);
-    const __m256 mag = _mm256_add_ps(_mm256_andnot_ps(sign, y), _mm256_set1_ps(0.5f));
-    return _mm256_cvttps_epi32(_mm256_or_ps(mag, _mm256_and_ps(sign, y)));
+    // y + copysign(0.5, y) under truncation is the sign of y on |y| + 0.5, as the rule says.
+    const __m256 half = _mm256_or_ps(_mm256_and_ps(_mm256_set1_ps(-0.0f), y), _mm256_set1_ps(0.5f));
+    return _mm256_cvttps_epi32(_mm256_add_ps(y, half));
   }
 }
 template <RoundKind kR>
@@ -192,9 +190,8 @@ inline __m128i RoundToI32(__m256d y) {
   } else if constexpr (kR == RoundKind::kNearest) {
     return _mm256_cvtpd_epi32(y);
   } else {
-    const __m256d sign = _mm256_set1_pd(-0.0);
-    const __m256d mag = _mm256_add_pd(_mm256_andnot_pd(sign, y), _mm256_set1_pd(0.5));
-    return _mm256_cvttpd_epi32(_mm256_or_pd(mag, _mm256_and_pd(sign, y)));
+    const __m256d half = _mm256_or_pd(_mm256_and_pd(_mm256_set1_pd(-0.0), y), _mm256_set1_pd(0.5));
+    return _mm256_cvttpd_epi32(_mm256_add_pd(y, half));
   }
 }
 
