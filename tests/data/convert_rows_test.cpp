@@ -1,0 +1,149 @@
+// Every row operation of Convert and Scale: the AVX row (plain and streaming) and the AVX AC4
+// row against their scalar twins, bit for bit, for every length up to 3 vectors + 3 and a few
+// long ones, on misaligned rows that end exactly where the allocation ends.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/float_to_int.h"
+#include "data/convert_members.h"
+#include "data/convert_rows.h"
+#include "data/convert_testing.h"
+#include "data/scale_rows.h"
+
+namespace {
+
+using namespace tpx::cvt;
+using cvttest::FloatValues;
+using cvttest::IntValues;
+using cvttest::Values;
+using tpx::Isa;
+using tpx::RoundKind;
+using tpxtest::Rng;
+
+// A row of exactly n samples (the allocation ends with it), offset by `mis` samples from the
+// allocation's start, which is itself 64-byte aligned by operator new[] of this size or not.
+template <class T>
+struct ExactRow {
+  ExactRow(int n, int mis) : buf(new T[static_cast<std::size_t>(n + mis)]), p(buf.get() + mis) {}
+  std::unique_ptr<T[]> buf;
+  T* p;
+};
+
+template <class Op>
+void Twin(const std::string& name, const Op& op, const Values<typename Op::Src>& values, Rng& rng) {
+  using S = typename Op::Src;
+  using D = typename Op::Dst;
+  std::vector<int> lengths;
+  for (int n = 0; n <= 3 * 16 + 3; ++n) lengths.push_back(n);
+  for (int n : {97, 260, 1001}) lengths.push_back(n);
+  int k = 0;
+  for (int n : lengths)
+    for (int mis : {0, 1, 3}) {
+      ExactRow<S> src(n, mis);
+      for (int i = 0; i < n; ++i) src.p[i] = values(rng);
+      const int dmis = (mis + k++) % 8;
+      ExactRow<D> ref(n, 0), avx(n, dmis), stream(n, (dmis + 5) % 8);
+      ConvertRow<Isa::kScalar>(src.p, ref.p, n, op);
+      ConvertRow<Isa::kAvx>(src.p, avx.p, n, op);
+      ConvertRow<Isa::kAvx, true>(src.p, stream.p, n, op);
+      _mm_sfence();
+      ASSERT_EQ(std::memcmp(ref.p, avx.p, sizeof(D) * n), 0) << name << " n=" << n << " mis=" << mis;
+      ASSERT_EQ(std::memcmp(ref.p, stream.p, sizeof(D) * n), 0) << name << " stream n=" << n << " mis=" << mis;
+      if (n % 4 == 0 && sizeof(D) <= 4) {  // AC4 (members up to 4-byte samples): fourth sample kept
+        ExactRow<D> a(n, dmis), b(n, 0);
+        for (int i = 0; i < n; ++i) a.p[i] = b.p[i] = static_cast<D>(rng.Int(0, 99));
+        ConvertRowAc4<Isa::kScalar>(src.p, b.p, n / 4, op);
+        ConvertRowAc4<Isa::kAvx>(src.p, a.p, n / 4, op);
+        ASSERT_EQ(std::memcmp(a.p, b.p, sizeof(D) * n), 0) << name << " AC4 n=" << n;
+        for (int i = 0; i < n; ++i) {
+          const D want = i % 4 == 3 ? b.p[i] : ref.p[i];
+          ASSERT_EQ(std::memcmp(&a.p[i], &want, sizeof(D)), 0) << name << " AC4 sample " << i;
+        }
+      }
+    }
+}
+
+template <RoundKind kR>
+const char* KindName() {
+  return kR == RoundKind::kZero ? " zero" : kR == RoundKind::kNearest ? " nearest" : " away";
+}
+
+template <class F, class D, RoundKind kR>
+void FloatTwins(const std::string& name, Rng& rng) {
+  const tpx::FloatToIntScope scope(kR);
+  Twin(name + KindName<kR>(), FloatOp<F, D, kR, false>{}, FloatValues<F, D>(), rng);
+  for (int sf : {3, -5, 200, -2000}) {
+    FloatOp<F, D, kR, true> op;
+    op.m = static_cast<F>(std::is_same_v<F, float> ? tpx::ScaleMultiplier32f(sf) : tpx::ScaleMultiplier64f(sf));
+    Twin(name + KindName<kR>() + " sf " + std::to_string(sf), op, FloatValues<F, D>(sf), rng);
+  }
+}
+
+template <class F, class D>
+void FloatTwinsAllKinds(const std::string& name, Rng& rng) {
+  FloatTwins<F, D, RoundKind::kZero>(name, rng);
+  FloatTwins<F, D, RoundKind::kNearest>(name, rng);
+  FloatTwins<F, D, RoundKind::kHalfAway>(name, rng);
+}
+
+TEST(ConvertRows, CastTwins) {
+  Rng rng(11);
+#define TPX_T_CAST(S, D) Twin(#S #D, CastOp<Tpx##S, Tpx##D>{}, IntValues<Tpx##S, Tpx##D>(), rng);
+  TPX_CONVERT_PLAIN_4L(TPX_T_CAST)
+  TPX_CONVERT_PLAIN_C1(TPX_T_CAST)
+  TPX_CONVERT_RS(TPX_T_CAST)
+  TPX_CONVERT_INT_SFS(TPX_T_CAST)
+}
+
+TEST(ConvertRows, FloatRuleTwins) {
+  Rng rng(12);
+#define TPX_T_FLOAT(S, D) FloatTwinsAllKinds<Tpx##S, Tpx##D>(#S #D, rng);
+  TPX_CONVERT_FLOAT_SFS(TPX_T_FLOAT)
+}
+
+template <class S, class D, RoundKind kR>
+void ShiftRightTwins(const std::string& name, Rng& rng) {
+  for (int sf : {1, 2, 5, 8, 15, kSfsZeroLimit<S> - 1})
+    if (sf < kSfsZeroLimit<S>)
+      Twin(name + KindName<kR>() + " sf " + std::to_string(sf), ShiftRightOp<S, D, kR>(sf), IntValues<S, D>(sf), rng);
+}
+
+template <class S, class D>
+void IntSfsTwins(const std::string& name, Rng& rng) {
+  ShiftRightTwins<S, D, RoundKind::kZero>(name, rng);
+  ShiftRightTwins<S, D, RoundKind::kNearest>(name, rng);
+  ShiftRightTwins<S, D, RoundKind::kHalfAway>(name, rng);
+  for (int k = 1; k <= -kSfsNegLimit<D>; k += (k < 3 ? 1 : 4))
+    Twin(name + " shl " + std::to_string(k), ShiftLeftOp<S, D>{k}, IntValues<S, D>(-k), rng);
+  Twin(name + " shl max", ShiftLeftOp<S, D>{-kSfsNegLimit<D>}, IntValues<S, D>(kSfsNegLimit<D>), rng);
+  Twin(name + " sign", SignOp<S, D>{}, IntValues<S, D>(), rng);
+}
+
+TEST(ConvertRows, ScaledIntegerTwins) {
+  Rng rng(13);
+#define TPX_T_ISFS(S, D) IntSfsTwins<Tpx##S, Tpx##D>(#S #D, rng);
+  TPX_CONVERT_INT_SFS(TPX_T_ISFS)
+}
+
+TEST(ConvertRows, ScaleTwins) {
+  Rng rng(14);
+  const tpx::FloatToIntScope scope(RoundKind::kNearest);
+  Twin("8u32f", ScaleToFloatOp{-3.25f, 1.7f}, IntValues<Tpx8u, Tpx8u>(), rng);
+  Twin("32f8u", ScaleFromFloatOp<Tpx32f>{0.37f, 11.5f}, FloatValues<Tpx32f, Tpx8u>(), rng);
+  Twin("16u8u fast", ScaleFromFloatOp<Tpx16u>{255.0f / 65535.0f, -0.0f}, IntValues<Tpx16u, Tpx16u>(), rng);
+  Twin("16s8u fast", ScaleFromFloatOp<Tpx16s>{255.0f / 65535.0f, 127.5f}, IntValues<Tpx16s, Tpx16s>(), rng);
+  Twin("32s8u fast", ScaleFromFloatOp<Tpx32s>{255.0f / 4294967296.0f, 127.5f}, IntValues<Tpx32s, Tpx32s>(), rng);
+  Twin("16u8u exact", ScaleExactOp<Tpx16u>{0.0, 255.0 / 65535.0}, IntValues<Tpx16u, Tpx16u>(), rng);
+  Twin("16s8u exact", ScaleExactOp<Tpx16s>{-32768.0, 255.0 / 65535.0}, IntValues<Tpx16s, Tpx16s>(), rng);
+  Twin("32s8u exact", ScaleExactOp<Tpx32s>{-2147483648.0, 255.0 / 4294967295.0}, IntValues<Tpx32s, Tpx32s>(), rng);
+  Twin("8u16u", ScaleWidenOp<Tpx16u>{}, IntValues<Tpx8u, Tpx8u>(), rng);
+  Twin("8u16s", ScaleWidenOp<Tpx16s>{}, IntValues<Tpx8u, Tpx8u>(), rng);
+  Twin("8u32s", ScaleWidenOp<Tpx32s>{}, IntValues<Tpx8u, Tpx8u>(), rng);
+}
+
+}  // namespace
