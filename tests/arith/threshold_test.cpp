@@ -209,11 +209,15 @@ TEST(Threshold, StreamingFor16uIsChosenBySizeAndChangesNothing) {
   auto run = [&](GuardedImage<Tpx16u>& s, GuardedImage<Tpx16u>& d, tpx::CacheSizeQuery q) {
     tpx::ThresholdRegion<Op, Tpx16u, Layout::C3>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, q);
   };
-  for (int width : {87381, 87382}) {  // 262143 and 262146 samples
-    GuardedImage<Tpx16u> s(width, 1, 3), d(width, 1, 3);
+  // The amount is counted in samples: 0x40000 and 0x40001 in C1, 87382 C3 pixels = 0x40002.
+  for (auto [width, ch, asks] : {std::tuple{0x40000, 1, 0}, {0x40001, 1, 1}, {87382, 3, 1}}) {
+    GuardedImage<Tpx16u> s(width, 1, ch), d(width, 1, ch);
     gQueries = 0;
-    run(s, d, SmallCache);
-    EXPECT_EQ(gQueries, width == 87382 ? 1 : 0) << width;
+    if (ch == 1)
+      tpx::ThresholdRegion<Op, Tpx16u, Layout::C1>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, SmallCache);
+    else
+      run(s, d, SmallCache);
+    EXPECT_EQ(gQueries, asks) << width;
   }
   Rng rng(0x16);
   GuardedImage<Tpx16u> s(301, 299, 3, 5, 1), plain(301, 299, 3, 3, 2), streamed(301, 299, 3, 1, 3), ref(301, 299, 3);
