@@ -9,6 +9,7 @@
 
 #include "core/layout.h"
 #include "support/random.h"
+#include "support/sweep.h"
 
 namespace decide {
 
@@ -53,6 +54,15 @@ std::vector<T> SamplesAround() {
   }
   for (T e : tpxtest::Extremes<T>()) s.push_back(e);
   return s;
+}
+
+// The common sweep plus contiguous images of several rows (padding 0), which the drivers run
+// as one long row.
+inline std::vector<tpxtest::Shape> Shapes(int lanes) {
+  std::vector<tpxtest::Shape> v = tpxtest::Shapes(lanes, {97, 301});
+  for (tpxtest::Shape s : {tpxtest::Shape{lanes + 3, 5, 0, 1}, {2 * lanes + 1, 3, 0, 0}, {97, 4, 0, 2}, {1, 9, 0, 3}})
+    v.push_back(s);
+  return v;
 }
 
 }  // namespace decide
