@@ -66,6 +66,15 @@ struct RowOperand {
   typename dvec::Vec<T>::V Load(int x, int k) const {
     return dvec::Vec<T>::Load(p + x * Stride(kL) + k * dvec::Vec<T>::kLanes);
   }
+  RowOperand Vectors() const { return *this; }
+};
+
+// The sample vectors of a 16-pixel group, held in registers by the vector loop.
+template <class T, Layout kL>
+struct VectorGroup {
+  static constexpr int kVecs = 16 * Stride(kL) / dvec::Vec<T>::kLanes;
+  typename dvec::Vec<T>::V v[kVecs];
+  typename dvec::Vec<T>::V Load(int, int k) const { return v[k]; }
 };
 
 // A constant pixel (one entry a channel), laid out once for a whole group of 16 pixels.
@@ -76,8 +85,10 @@ struct ConstOperand {
     for (int i = 0; i < 16 * Stride(kL); ++i) tile[i] = v[i % Stride(kL)];
   }
   T At(int, int c) const { return v[c]; }
-  typename dvec::Vec<T>::V Load(int, int k) const {
-    return dvec::Vec<T>::Load(tile + k * dvec::Vec<T>::kLanes);
+  VectorGroup<T, kL> Vectors() const {
+    VectorGroup<T, kL> g;
+    for (int k = 0; k < VectorGroup<T, kL>::kVecs; ++k) g.v[k] = dvec::Vec<T>::Load(tile + k * dvec::Vec<T>::kLanes);
+    return g;
   }
   T v[4];
   alignas(32) T tile[16 * 4];
@@ -120,34 +131,48 @@ inline __m128i PixelsHold(const __m128i* b) {
 }
 
 // ---- Row kernel -----------------------------------------------------------------------------
+// Pixels [from, to), one at a time.
+template <Layout kL, class Rel, class A, class B>
+inline void ComparePixels(const A& a, const B& b, Tpx8u* d, int from, int to, const Rel& rel) {
+  for (int x = from; x < to; ++x) {
+    bool all = true;
+    for (int c = 0; c < Processed(kL); ++c) all = all && rel.Holds(a.At(x, c), b.At(x, c));
+    d[x] = all ? 255 : 0;
+  }
+}
+
+// Groups of 16 pixels from pixel x on (d + x aligned to 16); returns the first pixel left.
+template <class T, Layout kL, class Rel, class A, class B>
+inline int CompareVectors(const A& a, const B& b, Tpx8u* d, int x, int pixels, const Rel& rel) {
+  using W = dvec::Vec<T>;
+  constexpr int kVecs = VectorGroup<T, kL>::kVecs;  // sample vectors of 16 pixels
+  constexpr int kPerByteVec = 16 / W::kLanes;      // sample vectors a byte vector takes
+  const auto av = a.Vectors();
+  const auto bv = b.Vectors();
+  const Rel r = rel;
+  for (; x + 16 <= pixels; x += 16) {
+    typename W::V m[kVecs];
+    dvec::Unroll<kVecs>([&](auto k) __attribute__((always_inline)) { m[k] = r.Mask(av.Load(x, k), bv.Load(x, k)); });
+    __m128i bytes[Stride(kL)];
+    dvec::Unroll<Stride(kL)>([&](auto j) __attribute__((always_inline)) { bytes[j] = W::ToBytes(m + j * kPerByteVec); });
+    _mm_store_si128(reinterpret_cast<__m128i*>(d + x), PixelsHold<kL, Rel::kInverted>(bytes));
+  }
+  return x;
+}
+
 // d[x] = 255 where rel holds on every considered channel of pixel x (C3, AC4: three; C4: four),
 // else 0, for x < pixels. V = 16 pixels a step. Head: pixels up to a 16-byte boundary of d;
 // tail: scalar, same rule.
 template <class T, Layout kL, Isa kI, class Rel, class A, class B>
 inline void CompareRow(const A& a, const B& b, Tpx8u* d, int pixels, const Rel& rel) {
   int x = 0;
-  auto scalarTo = [&](int end) {
-    for (; x < end; ++x) {
-      bool all = true;
-      for (int c = 0; c < Processed(kL); ++c) all = all && rel.Holds(a.At(x, c), b.At(x, c));
-      d[x] = all ? 255 : 0;
-    }
-  };
   if constexpr (kI == Isa::kAvx) {
-    using W = dvec::Vec<T>;
-    constexpr int kVecs = 16 * Stride(kL) / W::kLanes;  // sample vectors of 16 pixels
-    constexpr int kPerByteVec = 16 / W::kLanes;          // sample vectors a byte vector takes
-    const int head = static_cast<int>((0u - reinterpret_cast<std::uintptr_t>(d)) & 15u);
-    scalarTo(head < pixels ? head : pixels);
-    for (; x + 16 <= pixels; x += 16) {
-      typename W::V m[kVecs];
-      dvec::Unroll<kVecs>([&](auto k) { m[k] = rel.Mask(a.Load(x, k), b.Load(x, k)); });
-      __m128i bytes[Stride(kL)];
-      dvec::Unroll<Stride(kL)>([&](auto j) { bytes[j] = W::ToBytes(m + j * kPerByteVec); });
-      _mm_store_si128(reinterpret_cast<__m128i*>(d + x), PixelsHold<kL, Rel::kInverted>(bytes));
-    }
+    int head = static_cast<int>((0u - reinterpret_cast<std::uintptr_t>(d)) & 15u);
+    if (head > pixels) head = pixels;
+    ComparePixels<kL>(a, b, d, 0, head, rel);
+    x = CompareVectors<T, kL>(a, b, d, head, pixels, rel);
   }
-  scalarTo(pixels);
+  ComparePixels<kL>(a, b, d, x, pixels, rel);
 }
 
 }  // namespace tpx

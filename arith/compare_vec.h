@@ -107,11 +107,11 @@ struct Vec<Tpx32f> {
 
 // Calls f(std::integral_constant<int, 0>{}) ... f(<N - 1>) in order, unrolled.
 template <class F, int... I>
-inline void UnrollImpl(F&& f, std::integer_sequence<int, I...>) {
+__attribute__((always_inline)) inline void UnrollImpl(F&& f, std::integer_sequence<int, I...>) {
   (f(std::integral_constant<int, I>{}), ...);
 }
 template <int N, class F>
-inline void Unroll(F&& f) {
+__attribute__((always_inline)) inline void Unroll(F&& f) {
   UnrollImpl(f, std::make_integer_sequence<int, N>{});
 }
 

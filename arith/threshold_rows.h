@@ -99,6 +99,55 @@ struct ThreshTile {
 };
 
 // ---- Row kernel -----------------------------------------------------------------------------
+// Samples [from, to) of a row, one at a time; the row starts on a pixel.
+template <class Op, class T, Layout kL>
+inline void ThresholdSamples(const T* s, T* d, int from, int to,
+                             const ThreshTile<T, kL, Op::kParams>& tile) {
+  constexpr int kC = Stride(kL);
+  int c = from % kC;
+  for (int i = from; i < to; ++i) {
+    if (!(KeepsAlpha(kL) && c == 3)) d[i] = Op::Apply(s[i], tile.kc[c]);
+    if (++c == kC) c = 0;
+  }
+}
+
+// Whole vectors from sample i on; returns the first sample left. kNT: non-temporal stores
+// (d + i must be aligned to V).
+template <class Op, class T, Layout kL, bool kNT>
+inline int ThresholdVectors(const T* s, T* d, int i, int n, const ThreshTile<T, kL, Op::kParams>& tile) {
+  using W = dvec::Vec<T>;
+  using V = typename W::V;
+  using Tile = ThreshTile<T, kL, Op::kParams>;
+  constexpr int kLanes = W::kLanes;
+  constexpr int kP = Tile::kPeriodVecs;
+  constexpr int kUnroll = kP == 3 ? 3 : 4;
+  const int phase = i % Stride(kL);
+  V k[kP][Op::kParams], alpha[kP];
+  for (int g = 0; g < kP; ++g) {
+    for (int j = 0; j < Op::kParams; ++j) k[g][j] = W::Load(tile.vec[j] + phase + g * kLanes);
+    alpha[g] = W::Load(tile.alpha + phase + g * kLanes);
+  }
+  auto step = [s, d](int at, const V* kg, V ag) __attribute__((always_inline)) {
+    V r = Op::template Vector<W>(W::Load(s + at), kg);
+    if constexpr (KeepsAlpha(kL)) r = W::Blend(r, W::Load(d + at), ag);
+    if constexpr (kNT)
+      W::Stream(d + at, r);
+    else
+      W::Store(d + at, r);
+  };
+  for (; i + kUnroll * kLanes <= n; i += kUnroll * kLanes) {
+#pragma GCC unroll 4
+    for (int u = 0; u < kUnroll; ++u) step(i + u * kLanes, k[u % kP], alpha[u % kP]);
+  }
+#pragma GCC unroll 4
+  for (int g = 0; g < kUnroll - 1; ++g) {
+    if (i + kLanes > n) break;
+    step(i, k[g % kP], alpha[g % kP]);
+    i += kLanes;
+  }
+  return i;
+}
+
 // d[i] = Op(s[i]) for the n samples of a row of whole pixels (n a multiple of Stride(kL));
 // AC4: the fourth sample of each pixel of d stays. d may equal s. V = 16 bytes (8u, 16u, 16s)
 // or 32 bytes (32f), unrolled by 4 (C3: by the 3-vector pattern period). Head: samples up to a
@@ -106,57 +155,20 @@ struct ThreshTile {
 // stores where the head reached the boundary; the caller fences.
 template <class Op, class T, Layout kL, Isa kI, bool kStream = false>
 inline void ThresholdRow(const T* s, T* d, int n, const ThreshTile<T, kL, Op::kParams>& tile) {
-  constexpr int kC = Stride(kL);
   int i = 0;
-  int c = 0;  // channel of sample i
-  auto scalarTo = [&](int end) {
-    for (; i < end; ++i) {
-      if (!(KeepsAlpha(kL) && c == 3)) d[i] = Op::Apply(s[i], tile.kc[c]);
-      if (++c == kC) c = 0;
-    }
-  };
   if constexpr (kI == Isa::kAvx) {
-    using W = dvec::Vec<T>;
-    using V = typename W::V;
-    constexpr int kL_ = W::kLanes;
-    constexpr int kBytes = static_cast<int>(sizeof(V));
-    constexpr int kP = ThreshTile<T, kL, Op::kParams>::kPeriodVecs;
-    constexpr int kUnroll = kC == 3 ? 3 : 4;
+    constexpr int kBytes = static_cast<int>(sizeof(typename dvec::Vec<T>::V));
     const std::uintptr_t addr = reinterpret_cast<std::uintptr_t>(d);
     int head = 0;
     if (addr % sizeof(T) == 0) head = static_cast<int>(((kBytes - addr % kBytes) % kBytes) / sizeof(T));
-    scalarTo(head < n ? head : n);
-    const int phase = c;
-    V k[kP][Op::kParams];
-    V alpha[kP];
-    for (int g = 0; g < kP; ++g) {
-      for (int j = 0; j < Op::kParams; ++j) k[g][j] = W::Load(tile.vec[j] + phase + g * kL_);
-      alpha[g] = W::Load(tile.alpha + phase + g * kL_);
-    }
-    auto step = [&](int at, int g, auto stream) {
-      V r = Op::template Vector<W>(W::Load(s + at), k[g]);
-      if constexpr (KeepsAlpha(kL)) r = W::Blend(r, W::Load(d + at), alpha[g]);
-      if constexpr (decltype(stream)::value)
-        W::Stream(d + at, r);
-      else
-        W::Store(d + at, r);
-    };
-    auto body = [&](auto stream) {
-      for (; i + kUnroll * kL_ <= n; i += kUnroll * kL_)
-        dvec::Unroll<kUnroll>([&](auto u) { step(i + u * kL_, u % kP, stream); });
-      for (int g = 0; i + kL_ <= n; i += kL_, ++g) step(i, g % kP, stream);
-    };
-    if constexpr (kStream) {
-      if (reinterpret_cast<std::uintptr_t>(d + i) % kBytes == 0)
-        body(std::true_type{});
-      else
-        body(std::false_type{});
-    } else {
-      body(std::false_type{});
-    }
-    c = i % kC;
+    if (head > n) head = n;
+    ThresholdSamples<Op, T, kL>(s, d, 0, head, tile);
+    if (kStream && (addr + head * sizeof(T)) % kBytes == 0)
+      i = ThresholdVectors<Op, T, kL, kStream>(s, d, head, n, tile);
+    else
+      i = ThresholdVectors<Op, T, kL, false>(s, d, head, n, tile);
   }
-  scalarTo(n);
+  ThresholdSamples<Op, T, kL>(s, d, i, n, tile);
 }
 
 }  // namespace tpx
