@@ -41,8 +41,9 @@ struct Vec<Tpx8u> : Int128 {
   static V Min(V a, V b) { return _mm_min_epu8(a, b); }
   static V Max(V a, V b) { return _mm_max_epu8(a, b); }
   static V Eq(V a, V b) { return _mm_cmpeq_epi8(a, b); }
-  static V NotGreater(V a, V b) { return Eq(Max(a, b), b); }
-  static V NotLess(V a, V b) { return Eq(Min(a, b), b); }
+  // Ordered compares on samples moved to the signed range (bias 0x80): Gt(Biased(a), Biased(b)).
+  static V Biased(V a) { return _mm_xor_si128(a, _mm_set1_epi8(static_cast<char>(0x80))); }
+  static V Gt(V a, V b) { return _mm_cmpgt_epi8(a, b); }
   static V LessMask(V a, V b) { return Eq(Max(a, b), a); }
   static V LessEqMask(V a, V b) { return Eq(Max(a, b), b); }
   // Byte masks of 16 consecutive samples from the masks of one vector.
@@ -56,8 +57,8 @@ struct Vec<Tpx16u> : Int128 {
   static V Min(V a, V b) { return _mm_min_epu16(a, b); }
   static V Max(V a, V b) { return _mm_max_epu16(a, b); }
   static V Eq(V a, V b) { return _mm_cmpeq_epi16(a, b); }
-  static V NotGreater(V a, V b) { return Eq(Max(a, b), b); }
-  static V NotLess(V a, V b) { return Eq(Min(a, b), b); }
+  static V Biased(V a) { return _mm_xor_si128(a, _mm_set1_epi16(static_cast<short>(0x8000))); }
+  static V Gt(V a, V b) { return _mm_cmpgt_epi16(a, b); }
   static V LessMask(V a, V b) { return Eq(Max(a, b), a); }
   static V LessEqMask(V a, V b) { return Eq(Max(a, b), b); }
   static __m128i ToBytes(const V* m) { return _mm_packs_epi16(m[0], m[1]); }
@@ -71,15 +72,15 @@ struct Vec<Tpx16s> : Int128 {
   static V Min(V a, V b) { return _mm_min_epi16(a, b); }
   static V Max(V a, V b) { return _mm_max_epi16(a, b); }
   static V Eq(V a, V b) { return _mm_cmpeq_epi16(a, b); }
-  static V NotGreater(V a, V b) { return Eq(Max(a, b), b); }
-  static V NotLess(V a, V b) { return Eq(Min(a, b), b); }
+  static V Biased(V a) { return a; }
+  static V Gt(V a, V b) { return _mm_cmpgt_epi16(a, b); }
   static V LessMask(V a, V b) { return _mm_cmpgt_epi16(b, a); }
   static V LessEqMask(V a, V b) { return _mm_cmpgt_epi16(a, b); }
   static __m128i ToBytes(const V* m) { return _mm_packs_epi16(m[0], m[1]); }
 };
 
-// 32f: ordered predicates are false on NaN; the "not" predicates (NGT, NLT) are true on NaN.
-// Min and Max are the processor's: the second operand is returned where either is NaN.
+// 32f: ordered predicates, false on NaN. Min and Max are the processor's: the second operand
+// is returned where either is NaN.
 template <>
 struct Vec<Tpx32f> {
   using V = __m256;
@@ -88,8 +89,8 @@ struct Vec<Tpx32f> {
   static V Min(V a, V b) { return _mm256_min_ps(a, b); }
   static V Max(V a, V b) { return _mm256_max_ps(a, b); }
   static V Blend(V a, V b, V m) { return _mm256_blendv_ps(a, b, m); }  // m ? b : a
-  static V NotGreater(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_NGT_UQ); }
-  static V NotLess(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_NLT_UQ); }
+  static V Biased(V a) { return a; }
+  static V Gt(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_GT_OQ); }
   static V LessMask(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_LT_OQ); }
   static V LessEqMask(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_LE_OQ); }
   static V EqMask(V a, V b) { return _mm256_cmp_ps(a, b, _CMP_EQ_OQ); }

@@ -12,10 +12,13 @@ namespace tpx {
 // ---- Rules ----------------------------------------------------------------------------------
 // Apply(s, k) is the rule as written, with k the parameters of the sample's channel; Vector()
 // must give the same numbers. Every comparison is strict: a sample equal to its threshold stays.
+// kBiased marks the parameters that Vector() receives moved to the signed range (W::Biased), so
+// that one ordered compare decides; the others come as they are.
 
 // d = min(s, t), the processor's minimum with the sample first: a NaN sample gives t.
 struct ThreshGT {
   static constexpr int kParams = 1;
+  static constexpr unsigned kBiased = 0;
   template <class T>
   static T Apply(T s, const T* k) { return s < k[0] ? s : k[0]; }
   template <class W>
@@ -25,31 +28,35 @@ struct ThreshGT {
 // d = max(s, t), sample first: a NaN sample gives t.
 struct ThreshLT {
   static constexpr int kParams = 1;
+  static constexpr unsigned kBiased = 0;
   template <class T>
   static T Apply(T s, const T* k) { return s > k[0] ? s : k[0]; }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) { return W::Max(s, k[0]); }
 };
 
-// d = value where s > t. The select keeps s on the negated test, so a NaN sample stays.
+// d = value where s > t; the select takes the value only where the ordered test holds, so a
+// NaN sample stays.
 struct ThreshGTVal {
   static constexpr int kParams = 2;  // threshold, value
+  static constexpr unsigned kBiased = 1;
   template <class T>
   static T Apply(T s, const T* k) { return s > k[0] ? k[1] : s; }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) {
-    return W::Blend(k[1], s, W::NotGreater(s, k[0]));
+    return W::Blend(s, k[1], W::Gt(W::Biased(s), k[0]));
   }
 };
 
 // d = value where s < t; a NaN sample stays.
 struct ThreshLTVal {
   static constexpr int kParams = 2;  // threshold, value
+  static constexpr unsigned kBiased = 1;
   template <class T>
   static T Apply(T s, const T* k) { return s < k[0] ? k[1] : s; }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) {
-    return W::Blend(k[1], s, W::NotLess(s, k[0]));
+    return W::Blend(s, k[1], W::Gt(k[0], W::Biased(s)));
   }
 };
 
@@ -58,6 +65,7 @@ struct ThreshLTVal {
 // last in both forms all the same.
 struct ThreshLTValGTVal {
   static constexpr int kParams = 4;  // thresholdLT, valueLT, thresholdGT, valueGT
+  static constexpr unsigned kBiased = 0b101;
   template <class T>
   static T Apply(T s, const T* k) {
     T r = s;
@@ -67,8 +75,9 @@ struct ThreshLTValGTVal {
   }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) {
-    const typename W::V r = W::Blend(k[1], s, W::NotLess(s, k[0]));
-    return W::Blend(k[3], r, W::NotGreater(s, k[2]));
+    const typename W::V sb = W::Biased(s);
+    const typename W::V r = W::Blend(s, k[1], W::Gt(k[0], sb));
+    return W::Blend(r, k[3], W::Gt(sb, k[2]));
   }
 };
 
@@ -124,7 +133,10 @@ inline int ThresholdVectors(const T* s, T* d, int i, int n, const ThreshTile<T, 
   const int phase = i % Stride(kL);
   V k[kP][Op::kParams], alpha[kP];
   for (int g = 0; g < kP; ++g) {
-    for (int j = 0; j < Op::kParams; ++j) k[g][j] = W::Load(tile.vec[j] + phase + g * kLanes);
+    for (int j = 0; j < Op::kParams; ++j) {
+      k[g][j] = W::Load(tile.vec[j] + phase + g * kLanes);
+      if ((Op::kBiased >> j) & 1u) k[g][j] = W::Biased(k[g][j]);
+    }
     alpha[g] = W::Load(tile.alpha + phase + g * kLanes);
   }
   auto step = [s, d](int at, const V* kg, V ag) __attribute__((always_inline)) {

@@ -64,6 +64,16 @@ const int kRegistered = [] {
         tpxiThreshold_LTValGTVal_8u_C3R(s.a.data, Step(s.a), s.d.data, Step(s.d), Roi(s.a), tl, vl, tg, vg);
       },
       [](Images& s) { cv::threshold(s.a, s.d, 60, 0, cv::THRESH_TOZERO); });
+  // The same result from OpenCV takes two passes (TOZERO below 60, then TRUNC above 190).
+  Add("Threshold_LTValGTVal/8u_C3R/same-result", CV_8UC3, CV_8UC3, Bw::kCopy, 3,
+      [](Images& s) {
+        const Tpx8u tl[3] = {60, 60, 60}, vl[3] = {0, 0, 0}, tg[3] = {190, 190, 190};
+        tpxiThreshold_LTValGTVal_8u_C3R(s.a.data, Step(s.a), s.d.data, Step(s.d), Roi(s.a), tl, vl, tg, tg);
+      },
+      [](Images& s) {
+        cv::threshold(s.a, s.d, 59, 0, cv::THRESH_TOZERO);
+        cv::threshold(s.d, s.d, 190, 0, cv::THRESH_TRUNC);
+      });
   Add("Compare_LT/8u_C1R", CV_8UC1, CV_8UC1, Bw::kTwoReadsOneWrite, 1,
       [](Images& s) {
         tpxiCompare_8u_C1R(s.a.data, Step(s.a), s.b.data, Step(s.b), s.d.data, Step(s.d), Roi(s.a), tpxCmpLess);
