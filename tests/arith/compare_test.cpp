@@ -1,0 +1,263 @@
+// Comparison families: every export and cmpOp against a plain model on samples with many exact
+// ties (NaN and infinities for 32f), OpenCV's compare as an independent oracle, the row
+// kernel's AVX twin against its scalar twin for every relation and operand form, the eps
+// forms, and the check order.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <functional>
+#include <string>
+
+#include "arith/compare.h"
+#include "decide_test_util.h"
+#include "support/sweep.h"
+#include "tpxip.h"
+#ifdef TPX_HAVE_OPENCV
+#include <opencv2/core.hpp>
+#endif
+
+namespace {
+
+using namespace decide;
+using tpx::Isa;
+using tpxtest::GuardedImage;
+using tpxtest::Rng;
+
+template <class T>
+bool Holds(int op, T a, T b) {
+  switch (op) {
+    case 0: return a < b;
+    case 1: return a <= b;
+    case 2: return a == b;
+    case 3: return a >= b;
+    case 4: return a > b;
+  }
+  return false;
+}
+
+// 255 where every considered channel holds; holds(x, y, c).
+template <class F>
+void ModelMask(GuardedImage<Tpx8u>& want, Layout l, F holds) {
+  for (int y = 0; y < want.Height(); ++y)
+    for (int x = 0; x < want.Width(); ++x) {
+      bool all = true;
+      for (int c = 0; c < tpx::Processed(l); ++c) all = all && holds(x, y, c);
+      want.At(x, y) = all ? 255 : 0;
+    }
+}
+
+template <class T>
+struct Case {
+  std::string name;
+  Layout layout;
+  std::function<TpxStatus(const T*, int, const T*, int, Tpx8u*, int, TpxSize, int)> cmp;
+  std::function<TpxStatus(const T*, int, const T*, Tpx8u*, int, TpxSize, int)> cmpC;
+};
+template <class T>
+std::vector<Case<T>>& Cases() {
+  static std::vector<Case<T>> v;
+  return v;
+}
+template <class T, Layout L>
+auto Value(const T* v) {
+  if constexpr (L == Layout::C1) return v[0];
+  else return v;
+}
+#define ADD_CASE(T, L)                                                                            \
+  Cases<Tpx##T>().push_back(Case<Tpx##T>{                                                        \
+      #T "_" #L "R", Layout::L, tpxiCompare_##T##_##L##R,                                         \
+      [](const Tpx##T* s, int ss, const Tpx##T* v, Tpx8u* d, int ds, TpxSize r, int op) {         \
+        return tpxiCompareC_##T##_##L##R(s, ss, Value<Tpx##T, Layout::L>(v), d, ds, r, op);       \
+      }});
+const bool kRegistered = [] {
+  TPX_COMPARE_MEMBERS(ADD_CASE)
+  return true;
+}();
+
+TEST(Compare, EveryExportAndOpFollowsTheRuleOnTiesAndNaN) {
+  Rng rng(0xC0);
+  ForEachType([&](auto tag) {
+    using T = decltype(tag);
+    for (const Case<T>& k : Cases<T>()) {
+      const int ch = tpx::Stride(k.layout);
+      for (const tpxtest::Shape& sh : decide::Shapes(16)) {
+        GuardedImage<T> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
+        // Padding 0 leaves every image contiguous (one long run), except that every other such
+        // shape gives the mask a step of a C-sample row, which must not pass for contiguous.
+        const int maskPad = sh.padSamples == 0 && sh.height % 2 ? sh.width * (ch - 1) : sh.padSamples;
+        GuardedImage<T> b(sh.width, sh.height, ch, sh.padSamples ? (sh.padSamples + 5) % 7 : 0, (sh.misalign + 3) % 5);
+        GuardedImage<Tpx8u> d(sh.width, sh.height, 1, maskPad, sh.misalign), want(sh.width, sh.height);
+        tpxtest::FillFrom(a, rng, SamplesAround<T>());
+        // Mostly the same set, so that many pixels are equal in some or all channels.
+        tpxtest::FillFrom(b, rng, Pivots<T>());
+        std::vector<T> value(tpx::Stride(k.layout) == 4 && k.layout != Layout::AC4 ? 4 : 3);  // exact length
+        for (T& v : value) v = Pivots<T>()[rng.Int(0, 4)];
+        const std::string where = k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height);
+        for (int op = 0; op <= 4; ++op) {
+          ModelMask(want, k.layout, [&](int x, int y, int c) { return Holds(op, a.At(x, y, c), b.At(x, y, c)); });
+          ASSERT_EQ(k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op), tpxOk);
+          ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << where << " op " << op;
+          ModelMask(want, k.layout, [&](int x, int y, int c) { return Holds(op, a.At(x, y, c), value[c]); });
+          ASSERT_EQ(k.cmpC(a.Data(), a.Step(), value.data(), d.Data(), d.Step(), a.Size(), op), tpxOk);
+          ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << where << " C op " << op;
+        }
+        // Above 4 (and below 0) nothing runs: the destination keeps the last mask.
+        for (int op : {5, 7, INT_MAX, -1}) {
+          ASSERT_EQ(k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op), tpxOk);
+          ASSERT_EQ(k.cmpC(a.Data(), a.Step(), value.data(), d.Data(), d.Step(), a.Size(), op), tpxOk);
+          ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << where << " op " << op;
+        }
+      }
+    }
+  });
+}
+
+#define ADD_EPS(L)                                                                               \
+  {#L, Layout::L, tpxiCompareEqualEps_32f_##L##R,                                                \
+   [](const Tpx32f* s, int ss, const Tpx32f* v, Tpx8u* d, int ds, TpxSize r, Tpx32f eps) {       \
+     return tpxiCompareEqualEpsC_32f_##L##R(s, ss, Value<Tpx32f, Layout::L>(v), d, ds, r, eps);  \
+   }},
+
+TEST(Compare, EqualEpsIsAbsoluteDifferenceAtMostEps) {
+  struct EpsCase {
+    const char* name;
+    Layout layout;
+    std::function<TpxStatus(const Tpx32f*, int, const Tpx32f*, int, Tpx8u*, int, TpxSize, Tpx32f)> eq;
+    std::function<TpxStatus(const Tpx32f*, int, const Tpx32f*, Tpx8u*, int, TpxSize, Tpx32f)> eqC;
+  };
+  const EpsCase cases[] = {TPX_COMPARE_EPS_LAYOUTS(ADD_EPS)};
+  Rng rng(0xE9);
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  for (const EpsCase& k : cases) {
+    const int ch = tpx::Stride(k.layout);
+    for (const tpxtest::Shape& sh : decide::Shapes(8)) {
+      GuardedImage<float> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign), b(sh.width, sh.height, ch, sh.padSamples ? 1 : 0, 2);
+      GuardedImage<Tpx8u> d(sh.width, sh.height, 1, sh.padSamples, sh.misalign), want(sh.width, sh.height);
+      tpxtest::FillFrom(a, rng, SamplesAround<float>());
+      tpxtest::FillFrom(b, rng, SamplesAround<float>());
+      const float value[4] = {2.0f, -1.5f, 0.0f, 7.25f};
+      for (float eps : {0.0f, -0.0f, 0.5f, 2.0f, 3.5f, INFINITY, nan}) {
+        // Differences of the pivots hit 0.5, 2 and 3.5 exactly: equality with eps holds.
+        ModelMask(want, k.layout, [&](int x, int y, int c) { return std::fabs(a.At(x, y, c) - b.At(x, y, c)) <= eps; });
+        ASSERT_EQ(k.eq(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), eps), tpxOk);
+        ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << k.name << " eps " << eps;
+        ModelMask(want, k.layout, [&](int x, int y, int c) { return std::fabs(a.At(x, y, c) - value[c]) <= eps; });
+        ASSERT_EQ(k.eqC(a.Data(), a.Step(), value, d.Data(), d.Step(), a.Size(), eps), tpxOk);
+        ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << k.name << " C eps " << eps;
+      }
+    }
+  }
+  // eps 0: equal finite samples are equal, two NaN samples are not.
+  const float x[2] = {3.0f, nan}, y[2] = {3.0f, nan};
+  Tpx8u m[2] = {7, 7};
+  ASSERT_EQ(tpxiCompareEqualEps_32f_C1R(x, 8, y, 8, m, 2, TpxSize{2, 1}, 0.0f), tpxOk);
+  EXPECT_EQ(m[0], 255);
+  EXPECT_EQ(m[1], 0);
+}
+
+// Row kernel twins: every relation, operand form (image/image, image/constant, constant/image),
+// type and layout, every pixel count to 3*16+3, misaligned sources and destination.
+template <class T, Layout L, class Rel>
+void TwinsAgree(Rng& rng, const Rel& rel) {
+  constexpr int C = tpx::Stride(L);
+  T v[4];
+  for (T& x : v) x = Pivots<T>()[rng.Int(0, 4)];
+  const tpx::ConstOperand<T, L> k(v);
+  for (int px = 0; px <= 51; ++px)
+    for (int mis = 0; mis < 4; ++mis) {
+      GuardedImage<T> a(px, 1, C, 0, mis), b(px, 1, C, 0, 3 - mis);
+      tpxtest::FillFrom(a, rng, SamplesAround<T>());
+      tpxtest::FillFrom(b, rng, Pivots<T>());
+      const tpx::RowOperand<T, L> ra{a.Data()}, rb{b.Data()};
+      auto agree = [&](const auto& x, const auto& y) {
+        GuardedImage<Tpx8u> ref(px, 1, 1, 0, mis), got(px, 1, 1, 0, (mis + 5) % 16);
+        tpx::CompareRow<T, L, Isa::kScalar>(x, y, ref.Data(), px, rel);
+        tpx::CompareRow<T, L, Isa::kAvx>(x, y, got.Data(), px, rel);
+        return SameSamples(ref, got) && got.GuardsIntact();
+      };
+      ASSERT_TRUE(agree(ra, rb) && agree(ra, k) && agree(k, ra)) << px << " " << mis;
+    }
+}
+
+TEST(Compare, AvxRowEqualsScalarRow) {
+  Rng rng(0xC1);
+  ForEachType([&](auto tag) {
+    using T = decltype(tag);
+    ForEachLayout([&](auto lay) {
+      TwinsAgree<T, lay.value>(rng, tpx::RelLess<T>{});
+      TwinsAgree<T, lay.value>(rng, tpx::RelLessEq<T>{});
+      TwinsAgree<T, lay.value>(rng, tpx::RelEq<T>{});
+      if constexpr (std::is_same_v<T, Tpx32f>)
+        for (float eps : {0.0f, 0.5f, 2.0f}) TwinsAgree<T, lay.value>(rng, tpx::RelEqualEps(eps));
+    });
+  });
+}
+
+// Pointers, steps, size; then cmpOp (never refused) or eps.
+TEST(Compare, CheckOrderWithTwoFaults) {
+  Tpx8u a[64] = {}, d[16];
+  std::memset(d, 0x5A, sizeof(d));
+  const TpxSize ok{4, 4}, empty{4, 0};
+  const Tpx8u three[3] = {1, 2, 3};
+  const float f[16] = {};
+  EXPECT_EQ(tpxiCompare_8u_C1R(a, 4, nullptr, 0, d, 4, empty, 0), tpxErrNullPtr);
+  EXPECT_EQ(tpxiCompare_16s_C1R(nullptr, 8, nullptr, 8, d, 4, empty, 0), tpxErrNullPtr);
+  EXPECT_EQ(tpxiCompare_8u_C3R(a, 12, a, 12, d, -4, empty, 9), tpxErrStep);  // step before size
+  EXPECT_EQ(tpxiCompare_8u_C1R(a, 4, a, 4, d, 4, empty, 9), tpxErrSize);     // size before cmpOp
+  EXPECT_EQ(tpxiCompareC_8u_C3R(a, 0, nullptr, d, 4, empty, 0), tpxErrNullPtr);
+  EXPECT_EQ(tpxiCompareC_8u_AC4R(a, 0, three, d, 4, empty, 0), tpxErrStep);
+  EXPECT_EQ(tpxiCompareEqualEps_32f_C1R(f, 16, f, 0, d, 4, ok, -1.0f), tpxErrStep);
+  EXPECT_EQ(tpxiCompareEqualEps_32f_C1R(f, 16, f, 16, d, 4, empty, -1.0f), tpxErrSize);
+  EXPECT_EQ(tpxiCompareEqualEpsC_32f_C1R(f, 16, 0.0f, d, 4, ok, -1.0f), tpxErrEpsilon);
+  EXPECT_EQ(tpxiCompareEqualEpsC_32f_C3R(f, 48, nullptr, d, 4, empty, -1.0f), tpxErrNullPtr);
+  for (Tpx8u b : d) ASSERT_EQ(b, 0x5A);
+  // cmpOp 7 with a valid call: success, nothing written.
+  EXPECT_EQ(tpxiCompare_8u_C1R(a, 4, a, 4, d, 4, ok, 7), tpxOk);
+  for (Tpx8u b : d) ASSERT_EQ(b, 0x5A);
+  // AC4: alpha is not considered, whatever it holds.
+  const Tpx8u p[4] = {1, 1, 1, 200}, q[4] = {2, 2, 2, 0};
+  EXPECT_EQ(tpxiCompare_8u_AC4R(p, 4, q, 4, d, 1, TpxSize{1, 1}, tpxCmpLess), tpxOk);
+  EXPECT_EQ(d[0], 255);
+}
+
+#ifdef TPX_HAVE_OPENCV
+// OpenCV compares plane by plane (each against its own constant); the planes' masks of the
+// considered channels are then combined with bitwise_and.
+TEST(Compare, AgreesWithOpenCvCompare) {
+  Rng rng(0xCF);
+  const int cvOps[] = {cv::CMP_LT, cv::CMP_LE, cv::CMP_EQ, cv::CMP_GE, cv::CMP_GT};
+  ForEachType([&](auto tag) {
+    using T = decltype(tag);
+    const int depth = cv::DataType<T>::depth;
+    for (const Case<T>& k : Cases<T>()) {
+      const int ch = tpx::Stride(k.layout);
+      GuardedImage<T> a(67, 9, ch, 3, 1), b(67, 9, ch, 0, 2);
+      GuardedImage<Tpx8u> d(67, 9);
+      for (GuardedImage<T>* img : {&a, &b})  // the pivot set: ties, no NaN
+        for (int y = 0; y < 9; ++y)
+          for (int i = 0; i < img->RowSamples(); ++i) img->Row(y)[i] = Pivots<T>()[rng.Int(0, 4)];
+      std::vector<cv::Mat> pa, pb;
+      cv::split(cv::Mat(9, 67, CV_MAKETYPE(depth, ch), a.Data(), a.Step()), pa);
+      cv::split(cv::Mat(9, 67, CV_MAKETYPE(depth, ch), b.Data(), b.Step()), pb);
+      const T value[4] = {Pivots<T>()[1], Pivots<T>()[2], Pivots<T>()[3], Pivots<T>()[0]};
+      for (int op = 0; op <= 4; ++op)
+        for (bool withValue : {false, true}) {
+          cv::Mat all(9, 67, CV_8U, cv::Scalar(255)), m;
+          for (int c = 0; c < tpx::Processed(k.layout); ++c) {
+            if (withValue) cv::compare(pa[c], static_cast<double>(value[c]), m, cvOps[op]);
+            else cv::compare(pa[c], pb[c], m, cvOps[op]);
+            cv::bitwise_and(all, m, all);
+          }
+          const TpxStatus st = withValue ? k.cmpC(a.Data(), a.Step(), value, d.Data(), d.Step(), a.Size(), op)
+                                         : k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op);
+          ASSERT_EQ(st, tpxOk);
+          for (int y = 0; y < 9; ++y)
+            ASSERT_EQ(0, std::memcmp(d.Row(y), all.ptr(y), 67)) << k.name << " op " << op << " value " << withValue;
+        }
+    }
+  });
+}
+#endif
+
+}  // namespace

@@ -1,0 +1,284 @@
+// Threshold family: every export against a plain model of its rule on samples with many exact
+// ties, guard bands and AC4 alpha, the row kernel's AVX twin against its scalar twin, the 16u
+// streaming choice, and the check order.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+#include <string>
+
+#include "arith/threshold.h"
+#include "decide_test_util.h"
+#include "support/sweep.h"
+#include "tpxip.h"
+
+namespace {
+
+using namespace decide;
+using tpx::Isa;
+using tpxtest::GuardedImage;
+using tpxtest::Rng;
+
+enum class Fam { kByOp, kGT, kLT, kValByOp, kGTVal, kLTVal, kLTValGTVal };
+
+template <class T>
+struct Args {
+  T t[4], v[4], tGT[4], vGT[4];  // LTValGTVal: t, v are the LT pair
+  int cmpOp = 0;
+};
+
+// The rules as written. GT and LT are the processor's minimum and maximum with the sample
+// first: the sample only where it is strictly below (above), so NaN or a tie gives t.
+template <class T>
+T Model(Fam f, T s, const Args<T>& a, int c) {
+  const T t = a.t[c], v = a.v[c];
+  switch (f) {
+    case Fam::kByOp: return Model(a.cmpOp == 0 ? Fam::kLT : Fam::kGT, s, a, c);
+    case Fam::kGT: return s < t ? s : t;
+    case Fam::kLT: return s > t ? s : t;
+    case Fam::kValByOp: return Model(a.cmpOp == 0 ? Fam::kLTVal : Fam::kGTVal, s, a, c);
+    case Fam::kGTVal: return s > t ? v : s;
+    case Fam::kLTVal: return s < t ? v : s;
+    case Fam::kLTValGTVal: return s < t ? v : s > a.tGT[c] ? a.vGT[c] : s;
+  }
+  return s;
+}
+
+template <class T>
+struct Case {
+  std::string name;
+  Fam fam;
+  Layout layout;
+  std::function<TpxStatus(const T*, int, T*, int, TpxSize, const Args<T>&)> r;
+  std::function<TpxStatus(T*, int, TpxSize, const Args<T>&)> ir;
+};
+
+template <class T>
+std::vector<Case<T>>& Cases() {
+  static std::vector<Case<T>> v;
+  return v;
+}
+
+template <class T, Layout L>
+auto Arg(const T (&a)[4]) {
+  if constexpr (L == Layout::C1) return a[0];
+  else return static_cast<const T*>(a);
+}
+
+#define ARGS_1(T, L) Arg<Tpx##T, Layout::L>(a.t)
+#define ARGS_OP(T, L) Arg<Tpx##T, Layout::L>(a.t), a.cmpOp
+#define ARGS_2(T, L) Arg<Tpx##T, Layout::L>(a.t), Arg<Tpx##T, Layout::L>(a.v)
+#define ARGS_2OP(T, L) ARGS_2(T, L), a.cmpOp
+#define ARGS_4(T, L) ARGS_2(T, L), Arg<Tpx##T, Layout::L>(a.tGT), Arg<Tpx##T, Layout::L>(a.vGT)
+#define ADD_CASE(FamName, F, ARGS, T, L)                                                          \
+  Cases<Tpx##T>().push_back(Case<Tpx##T>{                                                        \
+      "tpxiThreshold" #FamName "_" #T "_" #L "R", F, Layout::L,                                  \
+      [](const Tpx##T* s, int ss, Tpx##T* d, int ds, TpxSize r, const Args<Tpx##T>& a) {          \
+        return tpxiThreshold##FamName##_##T##_##L##R(s, ss, d, ds, r, ARGS(T, L));                \
+      },                                                                                          \
+      [](Tpx##T* d, int ds, TpxSize r, const Args<Tpx##T>& a) {                                   \
+        return tpxiThreshold##FamName##_##T##_##L##IR(d, ds, r, ARGS(T, L));                      \
+      }});
+#define ADD_BYOP(T, L) ADD_CASE(, Fam::kByOp, ARGS_OP, T, L)
+#define ADD_GT(T, L) ADD_CASE(_GT, Fam::kGT, ARGS_1, T, L)
+#define ADD_LT(T, L) ADD_CASE(_LT, Fam::kLT, ARGS_1, T, L)
+#define ADD_VAL(T, L) ADD_CASE(_Val, Fam::kValByOp, ARGS_2OP, T, L)
+#define ADD_GTVAL(T, L) ADD_CASE(_GTVal, Fam::kGTVal, ARGS_2, T, L)
+#define ADD_LTVAL(T, L) ADD_CASE(_LTVal, Fam::kLTVal, ARGS_2, T, L)
+#define ADD_LTVALGTVAL(T, L) ADD_CASE(_LTValGTVal, Fam::kLTValGTVal, ARGS_4, T, L)
+
+const bool kRegistered = [] {
+  TPX_THRESHOLD_MEMBERS(ADD_BYOP)
+  TPX_THRESHOLD_MEMBERS(ADD_GT)
+  TPX_THRESHOLD_MEMBERS(ADD_LT)
+  TPX_THRESHOLD_MEMBERS(ADD_VAL)
+  TPX_THRESHOLD_VAL_MEMBERS(ADD_GTVAL)
+  TPX_THRESHOLD_VAL_MEMBERS(ADD_LTVAL)
+  TPX_THRESHOLD_MEMBERS(ADD_LTVALGTVAL)
+  return true;
+}();
+
+template <class T>
+Args<T> RandomArgs(Rng& rng) {
+  const std::vector<T> piv = Pivots<T>(), around = SamplesAround<T>();
+  Args<T> a;
+  for (int c = 0; c < 4; ++c) {
+    a.t[c] = piv[rng.Int(0, int(piv.size()) - 1)];
+    a.tGT[c] = piv[rng.Int(0, int(piv.size()) - 1)];
+    if (a.tGT[c] < a.t[c]) std::swap(a.tGT[c], a.t[c]);
+    a.v[c] = around[rng.Int(0, int(around.size()) - 1)];
+    a.vGT[c] = around[rng.Int(0, int(around.size()) - 1)];
+  }
+  a.cmpOp = rng.Chance(0.5) ? tpxCmpLess : tpxCmpGreater;
+  return a;
+}
+
+// Expected destination: the model on processed samples, the old destination elsewhere.
+template <class T>
+void Expect(const Case<T>& k, const GuardedImage<T>& src, GuardedImage<T>& want, const Args<T>& a) {
+  const int ch = want.Channels();
+  for (int y = 0; y < src.Height(); ++y)
+    for (int i = 0; i < src.RowSamples(); ++i)
+      if (i % ch < tpx::Processed(k.layout)) want.Row(y)[i] = Model(k.fam, src.Row(y)[i], a, i % ch);
+}
+
+TEST(Threshold, EveryExportFollowsItsRuleOnTiesNaNAndAlpha) {
+  Rng rng(0x7E5);
+  ForEachType([&](auto tag) {
+    using T = decltype(tag);
+    for (const Case<T>& k : Cases<T>()) {
+      const int ch = tpx::Stride(k.layout);
+      for (const tpxtest::Shape& sh : decide::Shapes(Lanes<T>())) {
+        GuardedImage<T> src(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
+        GuardedImage<T> dst(sh.width, sh.height, ch, (sh.padSamples * 7) % 11, (sh.misalign + 2) % 5);
+        tpxtest::FillFrom(src, rng, SamplesAround<T>());
+        tpxtest::FillFrom(dst, rng, SamplesAround<T>());
+        const Args<T> a = RandomArgs<T>(rng);
+        GuardedImage<T> want(sh.width, sh.height, ch);
+        want.CopyFrom(dst);
+        Expect(k, src, want, a);
+        const std::string where = k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height);
+        ASSERT_EQ(k.r(src.Data(), src.Step(), dst.Data(), dst.Step(), src.Size(), a), tpxOk) << where;
+        ASSERT_TRUE(SameSamples(dst, want)) << where;
+        ASSERT_TRUE(dst.GuardsIntact()) << where;
+        // In place on the same source: the alpha of the source image itself stays.
+        want.CopyFrom(src);
+        Expect(k, src, want, a);
+        ASSERT_EQ(k.ir(src.Data(), src.Step(), src.Size(), a), tpxOk) << where;
+        ASSERT_TRUE(SameSamples(src, want)) << where << " IR";
+        ASSERT_TRUE(src.GuardsIntact()) << where << " IR";
+      }
+    }
+  });
+}
+
+// The row kernel: AVX twin (plain and streaming stores) against the scalar twin, bit-exact, for
+// every rule, type and layout, every length up to 3V+3 pixels and every misalignment.
+template <class Op, class T, Layout L>
+void TwinsAgree(Rng& rng) {
+  constexpr int C = tpx::Stride(L);
+  T params[Op::kParams][4];
+  for (auto& p : params)
+    for (T& x : p) x = Pivots<T>()[rng.Int(0, 4)];
+  if constexpr (Op::kParams == 4)
+    for (int c = 0; c < 4; ++c)
+      if (params[2][c] < params[0][c]) std::swap(params[2][c], params[0][c]);
+  const tpx::ThreshTile<T, L, Op::kParams> tile(params);
+  for (int px = 0; px <= 3 * Lanes<T>() + 3; ++px)
+    for (int mis = 0; mis < 4; ++mis) {
+      GuardedImage<T> s(px, 1, C, 0, mis), ref(px, 1, C, 0, 3 - mis), got(px, 1, C);
+      tpxtest::FillFrom(s, rng, SamplesAround<T>());
+      tpxtest::FillFrom(ref, rng, SamplesAround<T>());
+      got.CopyFrom(ref);
+      tpx::ThresholdRow<Op, T, L, Isa::kScalar>(s.Data(), ref.Data(), px * C, tile);
+      tpx::ThresholdRow<Op, T, L, Isa::kAvx>(s.Data(), got.Data(), px * C, tile);
+      ASSERT_TRUE(SameSamples(ref, got) && got.GuardsIntact()) << px << " " << mis;
+      // In place, with streaming stores where the head reaches the boundary.
+      GuardedImage<T> ip0(px, 1, C, 0, mis), ip1(px, 1, C, 0, (mis + 1) % 4);
+      ip0.CopyFrom(s);
+      ip1.CopyFrom(s);
+      tpx::ThresholdRow<Op, T, L, Isa::kScalar>(ip0.Data(), ip0.Data(), px * C, tile);
+      tpx::ThresholdRow<Op, T, L, Isa::kAvx, true>(ip1.Data(), ip1.Data(), px * C, tile);
+      ASSERT_TRUE(SameSamples(ip0, ip1) && ip1.GuardsIntact()) << px << " " << mis;
+    }
+}
+
+TEST(Threshold, AvxRowEqualsScalarRow) {
+  Rng rng(0x7A1);
+  ForEachType([&](auto tag) {
+    using T = decltype(tag);
+    ForEachLayout([&](auto lay) {
+      TwinsAgree<tpx::ThreshGT, T, lay.value>(rng);
+      TwinsAgree<tpx::ThreshLT, T, lay.value>(rng);
+      TwinsAgree<tpx::ThreshGTVal, T, lay.value>(rng);
+      TwinsAgree<tpx::ThreshLTVal, T, lay.value>(rng);
+      TwinsAgree<tpx::ThreshLTValGTVal, T, lay.value>(rng);
+    });
+  });
+}
+
+// 16u members ask for the cache size only from 0x40001 samples on, and stream where the image
+// is at least that large; the samples come out the same either way.
+int gQueries = 0;
+int SmallCache(int* size) { ++gQueries; *size = 1; return 0; }
+int UnknownCache(int*) { ++gQueries; return 1; }
+
+TEST(Threshold, StreamingFor16uIsChosenBySizeAndChangesNothing) {
+  using Op = tpx::ThreshLTValGTVal;
+  const Tpx16u params[4][4] = {{100, 100, 100}, {7, 7, 7}, {250, 250, 250}, {9, 9, 9}};
+  auto run = [&](GuardedImage<Tpx16u>& s, GuardedImage<Tpx16u>& d, tpx::CacheSizeQuery q) {
+    tpx::ThresholdRegion<Op, Tpx16u, Layout::C3>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, q);
+  };
+  // The amount is counted in samples: 0x40000 and 0x40001 in C1, 87382 C3 pixels = 0x40002.
+  for (auto [width, ch, asks] : {std::tuple{0x40000, 1, 0}, {0x40001, 1, 1}, {87382, 3, 1}}) {
+    GuardedImage<Tpx16u> s(width, 1, ch), d(width, 1, ch);
+    gQueries = 0;
+    if (ch == 1)
+      tpx::ThresholdRegion<Op, Tpx16u, Layout::C1>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, SmallCache);
+    else
+      run(s, d, SmallCache);
+    EXPECT_EQ(gQueries, asks) << width;
+  }
+  Rng rng(0x16);
+  GuardedImage<Tpx16u> s(301, 299, 3, 5, 1), plain(301, 299, 3, 3, 2), streamed(301, 299, 3, 1, 3), ref(301, 299, 3);
+  tpxtest::FillFrom(s, rng, SamplesAround<Tpx16u>());
+  run(s, plain, UnknownCache);
+  run(s, streamed, SmallCache);
+  tpx::ThresholdRegion<Op, Tpx16u, Layout::C3, Isa::kScalar>(s.Data(), s.Step(), ref.Data(), ref.Step(), s.Size(), params);
+  EXPECT_TRUE(SameSamples(plain, ref) && SameSamples(streamed, ref));
+  EXPECT_TRUE(plain.GuardsIntact() && streamed.GuardsIntact());
+}
+
+// Pointers, size, step, then the family's own argument; _Val tests cmpOp first of all.
+TEST(Threshold, CheckOrderWithTwoFaults) {
+  Tpx8u img[64] = {};
+  Tpx8u keep[64];
+  std::memset(keep, 0x5A, sizeof(keep));
+  const TpxSize ok{4, 4}, empty{0, 4};
+  const Tpx8u three[3] = {1, 2, 3}, lower[3] = {5, 5, 5}, upper[3] = {9, 9, 4};
+  // Null and empty: the pointer first. Empty and bad step: the size first.
+  EXPECT_EQ(tpxiThreshold_GT_8u_C1R(nullptr, 4, keep, 4, empty, 1), tpxErrNullPtr);
+  EXPECT_EQ(tpxiThreshold_GT_16s_C1IR(reinterpret_cast<Tpx16s*>(img), 0, empty, 1), tpxErrSize);
+  EXPECT_EQ(tpxiThreshold_GTVal_8u_C3R(img, 12, keep, 12, empty, three, nullptr), tpxErrNullPtr);
+  EXPECT_EQ(tpxiThreshold_LTVal_8u_C4IR(img, 16, empty, nullptr, three), tpxErrNullPtr);
+  // cmpOp: after the step checks in tpxiThreshold_*, ahead of everything in _Val.
+  EXPECT_EQ(tpxiThreshold_8u_C1R(img, 0, keep, 4, ok, 1, tpxCmpLessEq), tpxErrStep);
+  EXPECT_EQ(tpxiThreshold_8u_C1R(nullptr, 4, keep, 4, ok, 1, tpxCmpLessEq), tpxErrNullPtr);
+  EXPECT_EQ(tpxiThreshold_Val_8u_C1R(nullptr, 4, keep, 4, empty, 1, 2, tpxCmpLessEq), tpxErrNotSupportedMode);
+  EXPECT_EQ(tpxiThreshold_Val_32f_C3IR(nullptr, 0, empty, nullptr, nullptr, 2), tpxErrNotSupportedMode);
+  for (int op : {1, 2, 3, 5, 12, -1, -4, 0x7ffffffc})
+    EXPECT_EQ(tpxiThreshold_8u_C1R(img, 4, keep, 4, ok, 1, op), tpxErrNotSupportedMode) << op;
+  // Threshold order: after pointers (all four tested), size and step; channel by channel.
+  EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_C1R(img, 0, keep, 4, ok, 9, 0, 5, 0), tpxErrStep);
+  EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_C3R(img, 12, keep, 12, empty, lower, three, nullptr, three), tpxErrNullPtr);
+  EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_C3R(img, 12, keep, 12, ok, lower, three, upper, three), tpxErrThresholdOrder);
+  EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_AC4R(img, 16, keep, 16, ok, lower, three, upper, three), tpxErrThresholdOrder);
+  for (Tpx8u b : keep) ASSERT_EQ(b, 0x5A);  // no failing call wrote anything
+  // Equal thresholds are allowed and keep the samples equal to them.
+  Tpx8u row[3] = {4, 5, 6};
+  EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_C1IR(row, 3, TpxSize{3, 1}, 5, 0, 5, 255), tpxOk);
+  EXPECT_EQ(row[0], 0);
+  EXPECT_EQ(row[1], 5);
+  EXPECT_EQ(row[2], 255);
+}
+
+// The NaN difference between the clamping and the Val forms, with NaN thresholds too.
+TEST(Threshold, NaNSampleClampsToThresholdButPassesVal) {
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  float d = 0;
+  const TpxSize one{1, 1};
+  ASSERT_EQ(tpxiThreshold_GT_32f_C1R(&nan, 4, &d, 4, one, 3.0f), tpxOk);
+  EXPECT_EQ(d, 3.0f);
+  ASSERT_EQ(tpxiThreshold_32f_C1R(&nan, 4, &d, 4, one, -2.0f, tpxCmpLess), tpxOk);
+  EXPECT_EQ(d, -2.0f);
+  ASSERT_EQ(tpxiThreshold_GTVal_32f_C1R(&nan, 4, &d, 4, one, 3.0f, 9.0f), tpxOk);
+  EXPECT_TRUE(std::isnan(d));
+  // A NaN threshold: min(s, NaN) is NaN; no sample compares above or below it.
+  const float s = 1.0f;
+  ASSERT_EQ(tpxiThreshold_GT_32f_C1R(&s, 4, &d, 4, one, nan), tpxOk);
+  EXPECT_TRUE(std::isnan(d));
+  ASSERT_EQ(tpxiThreshold_LTValGTVal_32f_C1R(&s, 4, &d, 4, one, nan, 0.0f, nan, 0.0f), tpxOk);
+  EXPECT_EQ(d, 1.0f);
+}
+
+}  // namespace
