@@ -400,3 +400,223 @@ TEST(BorderCopy, EveryMemberAndFormMatchesTheModel) {
 }
 
 }  // namespace
+
+namespace {
+
+// ---- Check order --------------------------------------------------------------------------------------
+// A destination that must stay as it is: any write shows.
+struct Untouched {
+  GuardedImage<Tpx8u> img{12, 6, 1, 4, 1};
+  std::vector<Tpx8u> before;
+  Untouched() {
+    Rng rng(1);
+    tpxtest::FillRandom(img, rng);
+    before = img.Samples();
+  }
+  bool Same() const { return SameBytes(img.Samples(), before) && img.GuardsIntact(); }
+};
+
+TEST(BorderCopyChecks, OrderIsPointersStepsSizes) {
+  Tpx8u src[64] = {};
+  Untouched d;
+  const TpxSize s{4, 3}, dd{12, 6}, empty{0, 3};
+  // Null beside a bad step, bad step beside a bad size: the earlier check wins in each family.
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(nullptr, 0, empty, d.img.Data(), 12, dd, 1, 1), tpxErrNullPtr);
+  EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1R(src, 0, empty, d.img.Data(), 12, dd, 1, 1), tpxErrStep);
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C1R(src, 4, s, d.img.Data(), -1, empty, 1, 1, 9), tpxErrStep);
+  EXPECT_EQ(tpxiCopyWrapBorder_32s_C1R(nullptr, 4, s, nullptr, 0, empty, -1, -1), tpxErrNullPtr);
+  const Tpx8u* noValue = nullptr;
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C3R(src, 0, empty, d.img.Data(), 12, dd, 1, 1, noValue), tpxErrNullPtr);
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C3IR(src + 20, 0, s, dd, 1, 1, noValue), tpxErrNullPtr);
+  // The size rules, each alone.
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(src, 4, s, d.img.Data(), 12, dd, -1, 0), tpxErrSize);
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(src, 4, s, d.img.Data(), 12, dd, 0, -1), tpxErrSize);
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(src, 4, s, d.img.Data(), 12, dd, 0, 9), tpxErrSize);   // 4 + 9 > 12
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(src, 4, s, d.img.Data(), 12, dd, 4, 0), tpxErrSize);   // 3 + 4 > 6
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(src, 4, s, d.img.Data(), 12, {12, 0}, 0, 0), tpxErrSize);
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(src, 4, {0, 0}, d.img.Data(), 12, dd, 0, 0), tpxErrSize);
+  EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1R(src, 4, s, d.img.Data(), 12, dd, 0x7fffffff, 0x7fffffff), tpxErrSize);
+  // The sizes are checked in 64 bits: a border that would wrap in 32 is still too large.
+  EXPECT_EQ(tpxiCopyWrapBorder_32f_C1R(reinterpret_cast<const Tpx32f*>(src), 16, s,
+                                       reinterpret_cast<Tpx32f*>(d.img.Data()), 48, {0x7fffffff, 6}, 0, 0x7ffffffe),
+            tpxErrSize);
+  // A step of 1 is never compared with the row.
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C1IR(src, 1, {1, 1}, {1, 1}, 0, 0, 3), tpxOk);
+  EXPECT_TRUE(d.Same());
+}
+
+TEST(BorderCopyChecks, InPlaceDiversionPerFamily) {
+  Rng rng(2);
+  GuardedImage<Tpx8u> img(10, 7, 1, 6, 2);
+  tpxtest::FillRandom(img, rng);
+  const TpxSize s{6, 3}, dd{10, 7};
+  // Replicate and Mirror: pSrc == pDst goes to the in-place form before any check, with dstStep;
+  // a srcStep of 0 is not looked at. The in-place form reads pSrc as the source inside the image.
+  Tpx8u* p = &img.At(2, 1);
+  auto model = [&](BorderKind k) {
+    return ModelImage<Tpx8u>(k, 1, false, [&](long long x, long long y, int) { return img.At(int(x) + 2, int(y) + 1); },
+                             6, 3, img.Samples(), 10, 7, 1, 2, nullptr);
+  };
+  std::vector<Tpx8u> want = model(BorderKind::kRepl);
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(p, 0, s, p, img.Step(), dd, 1, 2), tpxOk);
+  EXPECT_TRUE(SameBytes(img.Samples(), want));
+  want = model(BorderKind::kMirror);
+  EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1R(p, -5, s, p, img.Step(), dd, 1, 2), tpxOk);
+  EXPECT_TRUE(SameBytes(img.Samples(), want));
+  EXPECT_TRUE(img.GuardsIntact());
+  // The in-place checks look at dstStep, and at the one pointer: a null pair is a null source.
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R(p, 1, s, p, 0, dd, 1, 2), tpxErrStep);
+  EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1R(nullptr, 0, {0, 0}, nullptr, 0, dd, 1, 2), tpxErrNullPtr);
+  // Wrap checks first (srcStep counts), then diverts.
+  GuardedImage<Tpx32s> w(9, 5, 1, 3, 1);
+  tpxtest::FillRandom(w, rng);
+  Tpx32s* q = &w.At(3, 2);
+  EXPECT_EQ(tpxiCopyWrapBorder_32s_C1R(q, 0, {2, 2}, q, w.Step(), {9, 5}, 2, 3), tpxErrStep);
+  const std::vector<Tpx32s> wantW = ModelImage<Tpx32s>(
+      BorderKind::kWrap, 1, false, [&](long long x, long long y, int) { return w.At(int(x) + 3, int(y) + 2); }, 2, 2,
+      w.Samples(), 9, 5, 2, 3, nullptr);
+  EXPECT_EQ(tpxiCopyWrapBorder_32s_C1R(q, 4, {2, 2}, q, w.Step(), {9, 5}, 2, 3), tpxOk);
+  EXPECT_TRUE(SameBytes(w.Samples(), wantW));
+  EXPECT_TRUE(w.GuardsIntact());
+  // Const never diverts: srcStep is checked, and equal extents with no border are a copy.
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C1R(p, 0, s, p, img.Step(), s, 0, 0, 1), tpxErrStep);
+  const std::vector<Tpx8u> before = img.Samples();
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C1R(p, img.Step(), s, p, img.Step(), s, 0, 0, 1), tpxOk);
+  EXPECT_TRUE(SameBytes(img.Samples(), before));
+}
+
+TEST(BorderCopy, EqualExtentsWithoutBordersCopy) {
+  Rng rng(4);
+  GuardedImage<Tpx16s> src(7, 5, 3, 2, 1), dst(7, 5, 3, 0, 3);
+  tpxtest::FillRandom(src, rng);
+  EXPECT_EQ(tpxiCopyMirrorBorder_16s_C3R(src.Data(), src.Step(), {7, 5}, dst.Data(), dst.Step(), {7, 5}, 0, 0), tpxOk);
+  EXPECT_TRUE(SameBytes(src.Samples(), dst.Samples()));
+  EXPECT_TRUE(dst.GuardsIntact());
+}
+
+// ---- AC4 ---------------------------------------------------------------------------------------------------
+TEST(BorderCopyAc4, ReplicateSidesKeepAlphaRowsCarryIt) {
+  GuardedImage<Tpx8u> src(3, 2, 4), dst(7, 5, 4, 4, 1);
+  for (int y = 0; y < 2; ++y)
+    for (int x = 0; x < 3; ++x)
+      for (int c = 0; c < 4; ++c) src.At(x, y, c) = static_cast<Tpx8u>(100 + 10 * y + 3 * x + c);
+  for (int y = 0; y < 5; ++y)
+    for (int x = 0; x < 7; ++x) {
+      for (int c = 0; c < 3; ++c) dst.At(x, y, c) = 1;
+      dst.At(x, y, 3) = static_cast<Tpx8u>(7 + y);  // each destination row its own alpha
+    }
+  ASSERT_EQ(tpxiCopyReplicateBorder_8u_AC4R(src.Data(), src.Step(), {3, 2}, dst.Data(), dst.Step(), {7, 5}, 2, 2), tpxOk);
+  // Middle rows 2 and 3: side pixels take the edge colour and keep alpha 9 and 10; the row
+  // itself brings the source's alpha.
+  for (int y = 2; y < 4; ++y)
+    for (int x = 0; x < 7; ++x) {
+      const int sx = x < 2 ? 0 : x > 4 ? 2 : x - 2;
+      for (int c = 0; c < 3; ++c) EXPECT_EQ(dst.At(x, y, c), src.At(sx, y - 2, c));
+      EXPECT_EQ(dst.At(x, y, 3), (x >= 2 && x <= 4) ? src.At(sx, y - 2, 3) : 7 + y) << x << "," << y;
+    }
+  // Rows above are copies of row 2, the row below a copy of row 3, alpha and all.
+  for (int y : {0, 1, 4})
+    EXPECT_EQ(0, std::memcmp(dst.Row(y), dst.Row(y == 4 ? 3 : 2), 7 * 4)) << y;
+  EXPECT_TRUE(dst.GuardsIntact());
+}
+
+TEST(BorderCopyAc4, ConstWritesThreeOfFourSamples) {
+  GuardedImage<Tpx32f> src(2, 2, 4), dst(5, 4, 4, 0, 1);
+  for (int i = 0; i < 8; ++i) src.Row(i / 4)[(i % 4) * 2] = src.Row(i / 4)[(i % 4) * 2 + 1] = float(i);
+  for (int y = 0; y < 4; ++y)
+    for (int i = 0; i < 20; ++i) dst.Row(y)[i] = -7.0f;
+  const Tpx32f value[3] = {1.5f, 2.5f, 3.5f};
+  ASSERT_EQ(tpxiCopyConstBorder_32f_AC4R(src.Data(), src.Step(), {2, 2}, dst.Data(), dst.Step(), {5, 4}, 1, 2, value),
+            tpxOk);
+  for (int y = 0; y < 4; ++y)
+    for (int x = 0; x < 5; ++x) {
+      const bool inside = y >= 1 && y < 3 && x >= 2 && x < 4;
+      for (int c = 0; c < 4; ++c) {
+        const float want = inside ? src.At(x - 2, y - 1, c) : c < 3 ? value[c] : -7.0f;
+        EXPECT_EQ(dst.At(x, y, c), want) << x << "," << y << "," << c;
+      }
+    }
+}
+
+// ---- The 64-bit frame -------------------------------------------------------------------------------------
+TEST(BorderCopyL, WideCallsRunInSixtyFourBits) {
+  Rng rng(6);
+  // One row each, so that steps beyond 32 bits are never taken: the call does not fit and the
+  // 64-bit path must give what the model says.
+  const long long huge = 0x100000000LL;
+  for (int trial = 0; trial < 20; ++trial) {
+    const int w = rng.Int(1, 9), left = rng.Int(0, 40), right = rng.Int(0, 40);
+    GuardedImage<Tpx32f> src(w, 1), dst(left + w + right, 1);
+    tpxtest::FillRandom(src, rng);
+    tpxtest::FillRandom(dst, rng);
+    const std::vector<Tpx32f> want = ModelImage<Tpx32f>(
+        BorderKind::kMirror, 1, false, [&](long long x, long long, int) { return src.At(int(x), 0); }, w, 1,
+        dst.Samples(), left + w + right, 1, 0, left, nullptr);
+    ASSERT_EQ(tpxiCopyMirrorBorder_32f_C1R_L(src.Data(), huge, {w, 1}, dst.Data(), -huge, {left + w + right, 1}, 0, left),
+              tpxErrStep);  // a negative step that does not fit still meets the step check
+    ASSERT_EQ(tpxiCopyMirrorBorder_32f_C1R_L(src.Data(), huge, {w, 1}, dst.Data(), huge, {left + w + right, 1}, 0, left),
+              tpxOk);
+    ASSERT_TRUE(SameBytes(dst.Samples(), want));
+    ASSERT_TRUE(dst.GuardsIntact());
+  }
+  Tpx8u px[4] = {};
+  // Fits: narrowed, and the 32-bit status stands; empty extents give tpxErrSize.
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R_L(px, 4, {0, 1}, px + 1, 4, {1, 1}, 0, 0), tpxErrSize);
+  // Does not fit: an empty extent is tpxOk at once, whatever else is wrong.
+  EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R_L(nullptr, huge, {0, 1}, px, 4, {1, 1}, 0, 0), tpxOk);
+  EXPECT_EQ(tpxiCopyConstBorder_8u_C1IR_L(px, huge, {1, 1}, {1, -2}, 0, 0, 5), tpxOk);
+  // A border beyond 32 bits does not fit either, and then fails the size rule in 64 bits.
+  EXPECT_EQ(tpxiCopyWrapBorder_32s_C1R_L(reinterpret_cast<Tpx32s*>(px), 4, {1, 1}, reinterpret_cast<Tpx32s*>(px), 4,
+                                          {1, 1}, huge, 0),
+            tpxErrSize);
+  EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1IR_L(px, 4, {1, 1}, {1, 1}, 0, -huge), tpxErrSize);
+}
+
+// ---- OpenCV's copyMakeBorder as an independent oracle -----------------------------------------------------
+#ifdef TPX_HAVE_OPENCV
+template <class T>
+void CompareWithOpenCv(int cvType, int S, Rng& rng) {
+  const int cvKinds[] = {cv::BORDER_CONSTANT, cv::BORDER_REPLICATE, cv::BORDER_REFLECT_101, cv::BORDER_WRAP};
+  for (int trial = 0; trial < 40; ++trial) {
+    const int kindIx = trial % 4;
+    const int w = rng.Int(1, 40), h = rng.Int(1, 9);
+    // Reflection past one period of the source is our rule; OpenCV's keeps reflecting too.
+    const int left = rng.Int(0, 3 * w), right = rng.Int(0, 3 * w), top = rng.Int(0, 3 * h), bottom = rng.Int(0, 3 * h);
+    cv::Mat src(h, w, cvType);
+    for (int y = 0; y < h; ++y)
+      for (int i = 0; i < w * S; ++i) src.ptr<T>(y)[i] = rng.template Sample<T>();
+    T value[4];
+    for (T& v : value) v = rng.template Sample<T>();
+    cv::Scalar cvValue;
+    for (int c = 0; c < S; ++c) cvValue[c] = static_cast<double>(value[c]);
+    cv::Mat want, got(h + top + bottom, w + left + right, cvType);
+    cv::copyMakeBorder(src, want, top, bottom, left, right, cvKinds[kindIx], cvValue);
+    const TpxSize sr{w, h}, dr{got.cols, got.rows};
+    const int ss = static_cast<int>(src.step), ds = static_cast<int>(got.step);
+    TpxStatus st = tpxErrBadArg;
+    const Member<T>* m = nullptr;
+    const BorderKind kinds[] = {BorderKind::kConst, BorderKind::kRepl, BorderKind::kMirror, BorderKind::kWrap};
+    for (const auto& cand : std::get<std::vector<Member<T>>>(Members()))
+      if (cand.kind == kinds[kindIx] && tpx::Stride(cand.layout) == S && cand.layout != Layout::AC4) m = &cand;
+    if (!m) continue;  // Wrap has C1 32s and 32f only
+    st = m->r(src.ptr<T>(), ss, sr, got.ptr<T>(), ds, dr, top, left, value);
+    ASSERT_EQ(st, tpxOk);
+    ASSERT_EQ(0, cv::norm(want, got, cv::NORM_INF)) << m->name << " w=" << w << " h=" << h << " l/t/r/b=" << left << "/"
+                                                    << top << "/" << right << "/" << bottom;
+  }
+}
+
+TEST(BorderCopyOracle, MatchesCopyMakeBorder) {
+  Rng rng(9);
+  CompareWithOpenCv<Tpx8u>(CV_8UC1, 1, rng);
+  CompareWithOpenCv<Tpx8u>(CV_8UC3, 3, rng);
+  CompareWithOpenCv<Tpx8u>(CV_8UC4, 4, rng);
+  CompareWithOpenCv<Tpx16u>(CV_16UC1, 1, rng);
+  CompareWithOpenCv<Tpx16s>(CV_16SC3, 3, rng);
+  CompareWithOpenCv<Tpx32s>(CV_32SC1, 1, rng);
+  CompareWithOpenCv<Tpx32f>(CV_32FC1, 1, rng);
+  CompareWithOpenCv<Tpx32f>(CV_32FC4, 4, rng);
+}
+#endif
+
+}  // namespace
