@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "core/border_type.h"
 #include "core/codes.h"
 #include "core/export.h"
 #include "core/isa.h"
@@ -307,8 +308,8 @@ TpxStatus FilterBorderRun(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxS
   if ((borderType & 15) == 6 && !borderValue) return tpxErrNullPtr;
   if (roi.width < 1 || roi.height < 1) return tpxErrSize;
   if (srcStep < 1 || static_cast<long long>(roi.width) * static_cast<long long>(sizeof(T)) > dstStep) return tpxErrStep;
-  if (static_cast<unsigned>(borderType) >= 256u) return tpxErrBorder;
-  if (borderType != kInMemAll && (borderType & 15) != 6 && (borderType & 13) != 1) return tpxErrBorder;
+  if (static_cast<unsigned>(borderType) >= 256u) return tpxErrBorder;  // negatives too
+  if (const TpxStatus st = CheckBorderType(borderType, kBorderReplMirrorConst); st != tpxOk) return st;
 
   const FilterBorderSpec* s = SpecAt(pSpec);
   const int kw = s->kernelWidth, kh = s->kernelHeight;
