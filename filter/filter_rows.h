@@ -26,6 +26,8 @@
 
 namespace tpx::filter {
 
+#define TPX_FILTER_INLINE inline __attribute__((always_inline))
+
 // ---- Conversions with the processor's own semantics -------------------------------------------
 // Out-of-range values give 0x80000000, as the vector conversions do.
 inline int CvtRound(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }        // by MXCSR
@@ -107,7 +109,7 @@ struct IntFinaliser {
   double divisorD;
 
   // ---- scalar ----
-  int Apply(std::int32_t a) const {
+  TPX_FILTER_INLINE int Apply(std::int32_t a) const {
     switch (variant) {
       case kPlainRound: return WrapAdd(CvtRound(static_cast<float>(a) * scale), offset);
       case kShiftEven: return WrapAdd(ShiftEven(a), offset);
@@ -172,7 +174,7 @@ struct IntFinaliser {
   }
 
   // ---- vector, four lanes ----
-  __m128i Apply(__m128i a) const {
+  TPX_FILTER_INLINE __m128i Apply(__m128i a) const {
     const __m128i off = _mm_set1_epi32(offset);
     const __m128 sc = _mm_set1_ps(scale);
     switch (variant) {
@@ -338,8 +340,9 @@ inline __m128i LoadI16x8(const T* p) {
 // Exact sums of samples [o, o + 8 * kG) of one destination row through the pair table: each
 // madd is two multiplies and their add on samples widened to 16 bits.
 template <class T, int kCh, int kG>
-inline void PairSums(const T* src, std::ptrdiff_t step, int o, const IntRowParams& p, __m128i (&acc)[2 * kG]) {
+TPX_FILTER_INLINE void PairSums(const T* src, std::ptrdiff_t step, int o, const IntRowParams& p, __m128i (&out)[2 * kG]) {
   const int kw = p.win.kw, np = (kw + 1) >> 1;
+  __m128i acc[2 * kG];  // local, so that the sums stay in registers
   for (auto& a : acc) a = _mm_setzero_si128();
   const __m128i zero = _mm_setzero_si128();
   for (int i = 0; i < p.win.kh; ++i) {
@@ -348,6 +351,7 @@ inline void PairSums(const T* src, std::ptrdiff_t step, int o, const IntRowParam
     int j = 0;
     for (; j + 1 < kw; j += 2) {
       const __m128i c = _mm_load_si128(pt + (j >> 1));
+      #pragma GCC unroll 8
       for (int g = 0; g < kG; ++g) {
         const __m128i v0 = LoadI16x8(b + j * kCh + 8 * g), v1 = LoadI16x8(b + (j + 1) * kCh + 8 * g);
         acc[2 * g] = _mm_add_epi32(acc[2 * g], _mm_madd_epi16(_mm_unpacklo_epi16(v0, v1), c));
@@ -356,6 +360,7 @@ inline void PairSums(const T* src, std::ptrdiff_t step, int o, const IntRowParam
     }
     if (j < kw) {
       const __m128i c = _mm_load_si128(pt + (j >> 1));
+      #pragma GCC unroll 8
       for (int g = 0; g < kG; ++g) {
         const __m128i v0 = LoadI16x8(b + j * kCh + 8 * g);
         acc[2 * g] = _mm_add_epi32(acc[2 * g], _mm_madd_epi16(_mm_unpacklo_epi16(v0, zero), c));
@@ -363,6 +368,7 @@ inline void PairSums(const T* src, std::ptrdiff_t step, int o, const IntRowParam
       }
     }
   }
+  for (int q = 0; q < 2 * kG; ++q) out[q] = acc[q];
 }
 
 // Exact (wrapping) sum of one sample, kernel rows in order.
@@ -390,6 +396,7 @@ inline void IntRow(const T* src, std::ptrdiff_t step, T* dst, int n, const IntRo
         constexpr int kG = decltype(g)::value;
         __m128i acc[2 * kG];
         PairSums<T, kCh, kG>(src, step, o, p, acc);
+        #pragma GCC unroll 8
         for (int q = 0; q < kG; ++q) SatStore8(dst + o + 8 * q, f.Apply(acc[2 * q]), f.Apply(acc[2 * q + 1]));
       };
       int o = 0;
@@ -451,8 +458,9 @@ inline __m256 LoadF8(const T* p) {
 // caller's order (kernel rows, then columns), the first product starting the sum. Samples of
 // other types go through a converted copy on the stack, a span of the row at a time.
 template <class T, int kCh, int kV>
-inline void FloatBlockSums(const T* src, std::ptrdiff_t step, int o, const Window& win,
-                           const KernelView<float>& k, __m256 (&acc)[kV]) {
+TPX_FILTER_INLINE void FloatBlockSums(const T* src, std::ptrdiff_t step, int o, const Window& win,
+                                      const KernelView<float>& k, __m256 (&out)[kV]) {
+  __m256 acc[kV] = {};  // local, so that the sums stay in registers
   constexpr int kConv = 2048;  // floats of converted samples
   constexpr int kJ = (kConv - 8 * kV) / kCh + 1;
   alignas(32) float cv[std::is_same_v<T, float> ? 1 : kConv];
@@ -474,16 +482,19 @@ inline void FloatBlockSums(const T* src, std::ptrdiff_t step, int o, const Windo
       int j = 0;
       if (i == 0 && j0 == 0) {  // the first product starts the sum
         const __m256 c = _mm256_set1_ps(k.At(0));
+        #pragma GCC unroll 8
         for (int v = 0; v < kV; ++v) acc[v] = _mm256_mul_ps(c, _mm256_loadu_ps(f + 8 * v));
         j = 1;
       }
       for (; j < jn; ++j) {
         const __m256 c = _mm256_set1_ps(k.At(i * win.kw + j0 + j));
+        #pragma GCC unroll 8
         for (int v = 0; v < kV; ++v)
           acc[v] = _mm256_add_ps(acc[v], _mm256_mul_ps(c, _mm256_loadu_ps(f + j * kCh + 8 * v)));
       }
     }
   }
+  for (int v = 0; v < kV; ++v) out[v] = acc[v];
 }
 
 // Scalar twin of FloatBlockSums for one sample.
@@ -607,6 +618,7 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
         constexpr int kV = decltype(v)::value;
         __m256 acc[kV] = {};
         FloatBlockSums<T, kCh, kV>(src, srcStep, o, p.win, p.k, acc);
+        #pragma GCC unroll 8
         for (int q = 0; q < kV; ++q) {
           const __m256 a = _mm256_add_ps(acc[q], off);
           SatStore8(dst + o + 8 * q, FloatToSample4<T>(_mm256_castps256_ps128(a), p.mode),
@@ -637,6 +649,7 @@ void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrd
         constexpr int kV = decltype(v)::value;
         __m256 acc[kV] = {};
         FloatBlockSums<float, kCh, kV>(src, srcStep, o, win, k, acc);
+        #pragma GCC unroll 8
         for (int q = 0; q < kV; ++q) _mm256_storeu_ps(dst + o + 8 * q, acc[q]);
       };
       int o = 0;
@@ -666,15 +679,18 @@ void Float64Rows(const double* src, std::ptrdiff_t srcStep, double* dst, std::pt
           int j = 0;
           if (i == 0) {  // the first product starts the sum
             const __m256d c = _mm256_set1_pd(k.At(0));
+            #pragma GCC unroll 8
             for (int q = 0; q < kV; ++q) acc[q] = _mm256_mul_pd(c, _mm256_loadu_pd(b + 4 * q));
             j = 1;
           }
           for (; j < win.kw; ++j) {
             const __m256d c = _mm256_set1_pd(k.At(i * win.kw + j));
+            #pragma GCC unroll 8
             for (int q = 0; q < kV; ++q)
               acc[q] = _mm256_add_pd(acc[q], _mm256_mul_pd(c, _mm256_loadu_pd(b + j + 4 * q)));
           }
         }
+        #pragma GCC unroll 8
         for (int q = 0; q < kV; ++q) _mm256_storeu_pd(dst + o + 4 * q, acc[q]);
       };
       int o = 0;
