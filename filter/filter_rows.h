@@ -371,6 +371,36 @@ TPX_FILTER_INLINE void PairSums(const T* src, std::ptrdiff_t step, int o, const 
   for (int q = 0; q < 2 * kG; ++q) out[q] = acc[q];
 }
 
+// 8u form of PairSums over [o, o + 16 * kG): the two samples of a pair are interleaved as
+// bytes first and widened after, one 16-byte load per tap for sixteen outputs.
+template <int kCh, int kG>
+TPX_FILTER_INLINE void PairSums8u16(const Tpx8u* src, std::ptrdiff_t step, int o, const IntRowParams& p,
+                                    __m128i (&out)[4 * kG]) {
+  const int kw = p.win.kw, np = (kw + 1) >> 1;
+  __m128i acc[4 * kG];
+  for (auto& a : acc) a = _mm_setzero_si128();
+  const __m128i zero = _mm_setzero_si128();
+  auto load = [](const Tpx8u* q) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(q)); };
+  for (int i = 0; i < p.win.kh; ++i) {
+    const Tpx8u* b = Advance(src, static_cast<std::ptrdiff_t>(i - p.win.ay) * step) + o - p.win.ax * kCh;
+    const __m128i* pt = p.pairs + static_cast<std::ptrdiff_t>(i) * np;
+    for (int j = 0; j < kw; j += 2) {
+      const __m128i c = _mm_load_si128(pt + (j >> 1));
+#pragma GCC unroll 4
+      for (int g = 0; g < kG; ++g) {
+        const __m128i x0 = load(b + j * kCh + 16 * g);
+        const __m128i x1 = j + 1 < kw ? load(b + (j + 1) * kCh + 16 * g) : zero;
+        const __m128i lo = _mm_unpacklo_epi8(x0, x1), hi = _mm_unpackhi_epi8(x0, x1);
+        acc[4 * g] = _mm_add_epi32(acc[4 * g], _mm_madd_epi16(_mm_cvtepu8_epi16(lo), c));
+        acc[4 * g + 1] = _mm_add_epi32(acc[4 * g + 1], _mm_madd_epi16(_mm_unpackhi_epi8(lo, zero), c));
+        acc[4 * g + 2] = _mm_add_epi32(acc[4 * g + 2], _mm_madd_epi16(_mm_cvtepu8_epi16(hi), c));
+        acc[4 * g + 3] = _mm_add_epi32(acc[4 * g + 3], _mm_madd_epi16(_mm_unpackhi_epi8(hi, zero), c));
+      }
+    }
+  }
+  for (int q = 0; q < 4 * kG; ++q) out[q] = acc[q];
+}
+
 // Exact (wrapping) sum of one sample, kernel rows in order.
 template <class T, int kCh>
 inline std::int32_t ScalarIntSum(const T* src, std::ptrdiff_t step, int s, const IntRowParams& p) {
@@ -400,7 +430,16 @@ inline void IntRow(const T* src, std::ptrdiff_t step, T* dst, int n, const IntRo
         for (int q = 0; q < kG; ++q) SatStore8(dst + o + 8 * q, f.Apply(acc[2 * q]), f.Apply(acc[2 * q + 1]));
       };
       int o = 0;
-      for (; o + 32 <= n; o += 32) group(std::integral_constant<int, 4>{}, o);
+      if constexpr (std::is_same_v<T, Tpx8u>) {
+        for (; o + 32 <= n; o += 32) {
+          __m128i acc[8];
+          PairSums8u16<kCh, 2>(src, step, o, p, acc);
+#pragma GCC unroll 4
+          for (int q = 0; q < 4; ++q) SatStore8(dst + o + 8 * q, f.Apply(acc[2 * q]), f.Apply(acc[2 * q + 1]));
+        }
+      } else {
+        for (; o + 32 <= n; o += 32) group(std::integral_constant<int, 4>{}, o);
+      }
       for (; o + 8 <= n; o += 8) group(std::integral_constant<int, 1>{}, o);
       if (o < n) group(std::integral_constant<int, 1>{}, n - 8);
       return;
@@ -564,24 +603,16 @@ inline __m128i FloatToSample4(__m128 acc, int mode) {
   constexpr bool kSigned = std::is_signed_v<T>;
   const __m128 hi = _mm_set1_ps(static_cast<float>(IntRange<T>::kHi));
   const __m128 lo = _mm_set1_ps(kSigned ? -32768.0f : 0.0f);
-  const __m256d a = _mm256_cvtps_pd(acc);
-  const __m256d h = _mm256_set1_pd(0.5);
   __m128i r;
-  if (mode == 0) {
-    r = _mm_cvttps_epi32(acc);
-  } else if (mode == 1) {
-    __m128i up = _mm256_cvttpd_epi32(_mm256_add_pd(a, h));
-    const __m128 upTie = _mm_cmpeq_ps(_mm_sub_ps(_mm_cvtepi32_ps(up), acc), _mm_set1_ps(0.5f));
-    up = _mm_andnot_si128(_mm_and_si128(_mm_castps_si128(upTie), _mm_set1_epi32(1)), up);
-    // acc <= 0.5 (and not NaN) gives 0
-    r = _mm_andnot_si128(_mm_castps_si128(_mm_cmp_ps(acc, _mm_set1_ps(0.5f), _CMP_LE_OQ)), up);
-    if (kSigned) {
-      __m128i dn = _mm256_cvttpd_epi32(_mm256_sub_pd(a, h));
-      const __m128 dnTie = _mm_cmpeq_ps(_mm_sub_ps(_mm_cvtepi32_ps(dn), acc), _mm_set1_ps(-0.5f));
-      dn = _mm_add_epi32(dn, _mm_and_si128(_mm_castps_si128(dnTie), _mm_and_si128(dn, _mm_set1_epi32(1))));
-      r = _mm_blendv_epi8(r, dn, _mm_castps_si128(_mm_cmp_ps(acc, _mm_set1_ps(-0.5f), _CMP_LT_OQ)));
-    }
+  if (mode == 0 || mode == 1) {
+    // Clamped first (a NaN takes the low bound, as the table's conversion saturates there),
+    // then truncated, or rounded half to even: inside (0.5, hi) the table's "round half up,
+    // then clear the low bit on a tie" is exactly that, and below 0.5 both give 0.
+    const __m128 c = _mm_min_ps(_mm_max_ps(acc, lo), hi);
+    return _mm_cvttps_epi32(mode == 0 ? c : _mm_round_ps(c, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
   } else {
+    const __m256d a = _mm256_cvtps_pd(acc);
+    const __m256d h = _mm256_set1_pd(0.5);
     const __m128i up = _mm256_cvttpd_epi32(_mm256_add_pd(a, h));
     if (kSigned) {
       const __m128i dn = _mm256_cvttpd_epi32(_mm256_sub_pd(a, h));
