@@ -371,34 +371,42 @@ TPX_FILTER_INLINE void PairSums(const T* src, std::ptrdiff_t step, int o, const 
   for (int q = 0; q < 2 * kG; ++q) out[q] = acc[q];
 }
 
-// 8u form of PairSums over [o, o + 16 * kG): the two samples of a pair are interleaved as
-// bytes first and widened after, one 16-byte load per tap for sixteen outputs.
-template <int kCh, int kG>
-TPX_FILTER_INLINE void PairSums8u16(const Tpx8u* src, std::ptrdiff_t step, int o, const IntRowParams& p,
-                                    __m128i (&out)[4 * kG]) {
+// 8u form of PairSums over [o, o + 32): the two samples of a pair are interleaved as bytes
+// first and widened after, one 16-byte load per tap for sixteen outputs. Eight named sums, so
+// that they live in registers.
+template <int kCh>
+TPX_FILTER_INLINE void PairSums8u32(const Tpx8u* src, std::ptrdiff_t step, int o, const IntRowParams& p,
+                                    __m128i (&out)[8]) {
   const int kw = p.win.kw, np = (kw + 1) >> 1;
-  __m128i acc[4 * kG];
-  for (auto& a : acc) a = _mm_setzero_si128();
+  __m128i a0 = _mm_setzero_si128(), a1 = a0, a2 = a0, a3 = a0, a4 = a0, a5 = a0, a6 = a0, a7 = a0;
   const __m128i zero = _mm_setzero_si128();
   auto load = [](const Tpx8u* q) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(q)); };
+  auto madd4 = [&](__m128i x0, __m128i x1, __m128i c, __m128i& s0, __m128i& s1, __m128i& s2, __m128i& s3) {
+    const __m128i lo = _mm_unpacklo_epi8(x0, x1), hi = _mm_unpackhi_epi8(x0, x1);
+    s0 = _mm_add_epi32(s0, _mm_madd_epi16(_mm_cvtepu8_epi16(lo), c));
+    s1 = _mm_add_epi32(s1, _mm_madd_epi16(_mm_unpackhi_epi8(lo, zero), c));
+    s2 = _mm_add_epi32(s2, _mm_madd_epi16(_mm_cvtepu8_epi16(hi), c));
+    s3 = _mm_add_epi32(s3, _mm_madd_epi16(_mm_unpackhi_epi8(hi, zero), c));
+  };
   for (int i = 0; i < p.win.kh; ++i) {
     const Tpx8u* b = Advance(src, static_cast<std::ptrdiff_t>(i - p.win.ay) * step) + o - p.win.ax * kCh;
     const __m128i* pt = p.pairs + static_cast<std::ptrdiff_t>(i) * np;
-    for (int j = 0; j < kw; j += 2) {
+    int j = 0;
+    for (; j + 1 < kw; j += 2) {
       const __m128i c = _mm_load_si128(pt + (j >> 1));
-#pragma GCC unroll 4
-      for (int g = 0; g < kG; ++g) {
-        const __m128i x0 = load(b + j * kCh + 16 * g);
-        const __m128i x1 = j + 1 < kw ? load(b + (j + 1) * kCh + 16 * g) : zero;
-        const __m128i lo = _mm_unpacklo_epi8(x0, x1), hi = _mm_unpackhi_epi8(x0, x1);
-        acc[4 * g] = _mm_add_epi32(acc[4 * g], _mm_madd_epi16(_mm_cvtepu8_epi16(lo), c));
-        acc[4 * g + 1] = _mm_add_epi32(acc[4 * g + 1], _mm_madd_epi16(_mm_unpackhi_epi8(lo, zero), c));
-        acc[4 * g + 2] = _mm_add_epi32(acc[4 * g + 2], _mm_madd_epi16(_mm_cvtepu8_epi16(hi), c));
-        acc[4 * g + 3] = _mm_add_epi32(acc[4 * g + 3], _mm_madd_epi16(_mm_unpackhi_epi8(hi, zero), c));
-      }
+      const Tpx8u* q0 = b + j * kCh;
+      const Tpx8u* q1 = q0 + kCh;
+      madd4(load(q0), load(q1), c, a0, a1, a2, a3);
+      madd4(load(q0 + 16), load(q1 + 16), c, a4, a5, a6, a7);
+    }
+    if (j < kw) {
+      const __m128i c = _mm_load_si128(pt + (j >> 1));
+      const Tpx8u* q0 = b + j * kCh;
+      madd4(load(q0), zero, c, a0, a1, a2, a3);
+      madd4(load(q0 + 16), zero, c, a4, a5, a6, a7);
     }
   }
-  for (int q = 0; q < 4 * kG; ++q) out[q] = acc[q];
+  out[0] = a0; out[1] = a1; out[2] = a2; out[3] = a3; out[4] = a4; out[5] = a5; out[6] = a6; out[7] = a7;
 }
 
 // Exact (wrapping) sum of one sample, kernel rows in order.
@@ -433,7 +441,7 @@ inline void IntRow(const T* src, std::ptrdiff_t step, T* dst, int n, const IntRo
       if constexpr (std::is_same_v<T, Tpx8u>) {
         for (; o + 32 <= n; o += 32) {
           __m128i acc[8];
-          PairSums8u16<kCh, 2>(src, step, o, p, acc);
+          PairSums8u32<kCh>(src, step, o, p, acc);
 #pragma GCC unroll 4
           for (int q = 0; q < 4; ++q) SatStore8(dst + o + 8 * q, f.Apply(acc[2 * q]), f.Apply(acc[2 * q + 1]));
         }
