@@ -68,6 +68,15 @@ inline void SatStore8(T* d, __m128i lo, __m128i hi) {
   }
 }
 
+// Walks a row of n >= kV samples: blocks of kBig vectors of kV samples, then single vectors,
+// then one overlapping last vector (rows are out of place, so recomputed samples are equal).
+template <int kBig, int kV, class Block>
+TPX_FILTER_INLINE void ForEachVectorBlock(int n, int o, Block&& block) {
+  for (; o + kBig * kV <= n; o += kBig * kV) block(std::integral_constant<int, kBig>{}, o);
+  for (; o + kV <= n; o += kV) block(std::integral_constant<int, 1>{}, o);
+  if (o < n) block(std::integral_constant<int, 1>{}, n - kV);
+}
+
 // ---- Kernel access -----------------------------------------------------------------------------
 // The spec keeps the kernel reversed; a view reads it in the caller's order.
 template <class K>
@@ -445,11 +454,8 @@ inline void IntRow(const T* src, std::ptrdiff_t step, T* dst, int n, const IntRo
 #pragma GCC unroll 4
           for (int q = 0; q < 4; ++q) SatStore8(dst + o + 8 * q, f.Apply(acc[2 * q]), f.Apply(acc[2 * q + 1]));
         }
-      } else {
-        for (; o + 32 <= n; o += 32) group(std::integral_constant<int, 4>{}, o);
       }
-      for (; o + 8 <= n; o += 8) group(std::integral_constant<int, 1>{}, o);
-      if (o < n) group(std::integral_constant<int, 1>{}, n - 8);
+      ForEachVectorBlock<4, 8>(n, o, group);
       return;
     }
   }
@@ -664,10 +670,7 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
                     FloatToSample4<T>(_mm256_extractf128_ps(a, 1), p.mode));
         }
       };
-      int o = 0;
-      for (; o + 64 <= n; o += 64) block(std::integral_constant<int, 8>{}, o);
-      for (; o + 8 <= n; o += 8) block(std::integral_constant<int, 1>{}, o);
-      if (o < n) block(std::integral_constant<int, 1>{}, n - 8);
+      ForEachVectorBlock<8, 8>(n, 0, block);
     } else {
       for (int s = 0; s < n; ++s)
         dst[s] = FloatToSample<T>(FloatSum<T, kCh>(src, srcStep, s, p.win, p.k) + p.offsetF, p.mode);
@@ -691,10 +694,7 @@ void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrd
         #pragma GCC unroll 8
         for (int q = 0; q < kV; ++q) _mm256_storeu_ps(dst + o + 8 * q, acc[q]);
       };
-      int o = 0;
-      for (; o + 64 <= n; o += 64) block(std::integral_constant<int, 8>{}, o);
-      for (; o + 8 <= n; o += 8) block(std::integral_constant<int, 1>{}, o);
-      if (o < n) block(std::integral_constant<int, 1>{}, n - 8);
+      ForEachVectorBlock<8, 8>(n, 0, block);
     } else {
       for (int s = 0; s < n; ++s) dst[s] = FloatSum<float, kCh>(src, srcStep, s, win, k);
     }
@@ -732,10 +732,7 @@ void Float64Rows(const double* src, std::ptrdiff_t srcStep, double* dst, std::pt
         #pragma GCC unroll 8
         for (int q = 0; q < kV; ++q) _mm256_storeu_pd(dst + o + 4 * q, acc[q]);
       };
-      int o = 0;
-      for (; o + 16 <= w; o += 16) block(std::integral_constant<int, 4>{}, o);
-      for (; o + 4 <= w; o += 4) block(std::integral_constant<int, 1>{}, o);
-      if (o < w) block(std::integral_constant<int, 1>{}, w - 4);
+      ForEachVectorBlock<4, 4>(w, 0, block);
     } else {
       for (int s = 0; s < w; ++s) {
         double acc = 0.0;

@@ -60,16 +60,13 @@ void Compare(Rng& rng, Prepared& p, TpxSize k, TpxSize roi, int bt, Expect expec
 template <class T, int kCh>
 void IntegerKernelMember(int seed) {
   Rng rng(seed);
-  const long long maxAbs = std::max<long long>(std::abs(static_cast<long long>(std::numeric_limits<T>::lowest())),
-                                               std::numeric_limits<T>::max());
   for (TpxSize k : kKernels) {
     const int n = k.width * k.height;
     for (TpxSize roi : Regions(k)) {
       Prepared p;
       ASSERT_EQ(tpxOk, p.Size(k, roi, kDataType<T>, 7, kCh));
       std::vector<Tpx16s> K(n);
-      int bound = 600;
-      while (bound > 1 && maxAbs * bound * n >= (1 << 24)) bound /= 2;  // sums exact in float
+      const int bound = ExactBound<T>(600, n);
       for (auto& v : K) v = static_cast<Tpx16s>(rng.Int(-bound, bound));
       const int shift = rng.Int(0, 4);
       const int modes[] = {1, 2, 16, 17, 18};
@@ -100,16 +97,13 @@ void IntegerKernelMember(int seed) {
 template <class T, int kCh>
 void FloatKernelMember(int seed) {
   Rng rng(seed);
-  const long long maxAbs = std::max<long long>(std::abs(static_cast<long long>(std::numeric_limits<T>::lowest())),
-                                               std::numeric_limits<T>::max());
   for (TpxSize k : kKernels) {
     const int n = k.width * k.height;
     for (TpxSize roi : Regions(k)) {
       Prepared p;
       ASSERT_EQ(tpxOk, p.Size(k, roi, kDataType<T>, 13, kCh));
       std::vector<float> K(n);
-      int bound = 40;
-      while (bound > 1 && maxAbs * bound * n >= (1 << 24)) bound /= 2;
+      const int bound = ExactBound<T>(40, n);
       for (auto& v : K) v = static_cast<float>(rng.Int(-bound, bound)) / 8.0f;
       const int mode = rng.Int(0, 2);
       ASSERT_EQ(tpxOk, tpxiFilterBorderInit_32f(K.data(), k, kDataType<T>, kCh, mode, p.Spec()));

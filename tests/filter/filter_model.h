@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <limits>
+#include <algorithm>
 #include <vector>
 
 #include "support/image.h"
@@ -87,6 +89,17 @@ template <class T>
 T Saturate(long long v) {
   const long long lo = std::numeric_limits<T>::lowest(), hi = std::numeric_limits<T>::max();
   return static_cast<T>(v < lo ? lo : v > hi ? hi : v);
+}
+
+// The largest coefficient bound, from `start` down by halves, that keeps every sum of n taps
+// over samples of T below 2^24, so that float sums are exact.
+template <class T>
+int ExactBound(int start, int n) {
+  const long long maxAbs = std::max<long long>(-static_cast<long long>(std::numeric_limits<T>::lowest()),
+                                               std::numeric_limits<T>::max());
+  int bound = start;
+  while (bound > 1 && maxAbs * bound * n >= (1 << 24)) bound /= 2;
+  return bound;
 }
 
 // Spec and buffer for one configuration, through the public size query.
