@@ -512,8 +512,7 @@ inline __m256 LoadF8(const T* p) {
 // other types go through a converted copy on the stack, a span of the row at a time.
 template <class T, int kCh, int kV>
 TPX_FILTER_INLINE void FloatBlockSums(const T* src, std::ptrdiff_t step, int o, const Window& win,
-                                      const KernelView<float>& k, __m256 (&out)[kV]) {
-  __m256 acc[kV] = {};  // local, so that the sums stay in registers
+                                      const KernelView<float>& k, __m256 (&acc)[kV]) {
   constexpr int kConv = 2048;  // floats of converted samples
   constexpr int kJ = (kConv - 8 * kV) / kCh + 1;
   alignas(32) float cv[std::is_same_v<T, float> ? 1 : kConv];
@@ -547,7 +546,6 @@ TPX_FILTER_INLINE void FloatBlockSums(const T* src, std::ptrdiff_t step, int o, 
       }
     }
   }
-  for (int v = 0; v < kV; ++v) out[v] = acc[v];
 }
 
 // Scalar twin of FloatBlockSums for one sample.
