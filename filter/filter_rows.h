@@ -14,6 +14,7 @@
 #include <immintrin.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -91,6 +92,140 @@ inline KernelView<K> ReversedView(const K* rev, int n) { return {rev + (n - 1), 
 struct Window {
   int kw, kh, ax, ay;
 };
+
+template <class T>
+inline __m256 LoadF8(const T* p) {
+  if constexpr (std::is_same_v<T, float>) {
+    return _mm256_loadu_ps(p);
+  } else {
+    __m128i lo, hi;
+    if constexpr (std::is_same_v<T, Tpx8u>) {
+      const __m128i b = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+      lo = _mm_cvtepu8_epi32(b);
+      hi = _mm_cvtepu8_epi32(_mm_srli_si128(b, 4));
+    } else {
+      const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+      if constexpr (std::is_same_v<T, Tpx16u>) {
+        lo = _mm_cvtepu16_epi32(v);
+        hi = _mm_cvtepu16_epi32(_mm_srli_si128(v, 8));
+      } else {
+        lo = _mm_cvtepi16_epi32(v);
+        hi = _mm_cvtepi16_epi32(_mm_srli_si128(v, 8));
+      }
+    }
+    return _mm256_cvtepi32_ps(_mm256_insertf128_si256(_mm256_castsi128_si256(lo), hi, 1));
+  }
+}
+
+// ---- Two destination rows per pass ----------------------------------------------------------
+// Float sums of kV vectors (8 samples each) of one or two destination rows: the sum of the
+// first row reads source rows row(0) .. row(kh - 1), that of the second row(1) .. row(kh);
+// row(i) points at the sample under the first tap of the block's first sample minus `off`.
+// Taps go in the caller's order (kernel rows, then columns), the first product starting each
+// sum: the order of FloatBlockSums and FloatSum. Each loaded vector serves both rows.
+// kKw is the kernel width when known at compile time, else 0.
+template <int kCh, int kV, bool kTwo, int kKw = 0, class Row>
+TPX_FILTER_INLINE void RowPairSums(Row&& row, int off, const Window& win, const KernelView<float>& k,
+                                   __m256 (&a0)[kV], __m256 (&a1)[kV]) {
+  const int kw = kKw ? kKw : win.kw, kh = win.kh;
+  const float* const kb = k.base;
+  const std::ptrdiff_t ks = k.stride;
+  auto coef = [&](int i, int j) { return _mm256_broadcast_ss(kb + static_cast<std::ptrdiff_t>(i * kw + j) * ks); };
+  auto taps = [&](int r, auto first, auto second) {
+    const float* f = row(r) + off;
+    #pragma GCC unroll 8
+    for (int j = 0; j < kw; ++j) {
+      __m256 x[kV];
+      #pragma GCC unroll 8
+      for (int v = 0; v < kV; ++v) x[v] = _mm256_loadu_ps(f + j * kCh + 8 * v);
+      if constexpr (decltype(first)::value) {
+        const __m256 c = coef(r, j);
+        if (r == 0 && j == 0) {
+          #pragma GCC unroll 8
+          for (int v = 0; v < kV; ++v) a0[v] = _mm256_mul_ps(c, x[v]);
+        } else {
+          #pragma GCC unroll 8
+          for (int v = 0; v < kV; ++v) a0[v] = _mm256_add_ps(a0[v], _mm256_mul_ps(c, x[v]));
+        }
+      }
+      if constexpr (decltype(second)::value) {
+        const __m256 c = coef(r - 1, j);
+        if (r == 1 && j == 0) {
+          #pragma GCC unroll 8
+          for (int v = 0; v < kV; ++v) a1[v] = _mm256_mul_ps(c, x[v]);
+        } else {
+          #pragma GCC unroll 8
+          for (int v = 0; v < kV; ++v) a1[v] = _mm256_add_ps(a1[v], _mm256_mul_ps(c, x[v]));
+        }
+      }
+    }
+  };
+  using Yes = std::true_type;
+  using No = std::false_type;
+  taps(0, Yes{}, No{});
+  for (int r = 1; r < kh; ++r) {
+    if constexpr (kTwo) taps(r, Yes{}, Yes{});
+    else taps(r, Yes{}, No{});
+  }
+  if constexpr (kTwo) taps(kh, No{}, Yes{});
+}
+
+// RowPairSums with a width of 3 unrolled (wider rows keep the loop: unrolled they spill).
+template <int kCh, int kV, bool kTwo, class Row>
+TPX_FILTER_INLINE void RowPairSumsAnyWidth(Row&& row, int off, const Window& win, const KernelView<float>& k,
+                                           __m256 (&a0)[kV], __m256 (&a1)[kV]) {
+  if (win.kw == 3) RowPairSums<kCh, kV, kTwo, 3>(row, off, win, k, a0, a1);
+  else RowPairSums<kCh, kV, kTwo>(row, off, win, k, a0, a1);
+}
+
+// Source rows converted to float once. The region is walked in column tiles as wide as a
+// stack ring of kh + 1 rows allows (the whole row for the usual sizes); in a tile every
+// source row the kernel reads is converted once into the ring, and two destination rows are
+// computed per pass from the kh + 1 rows they read. Kernels taller or wider than the ring
+// takes take the routines that convert per block.
+inline constexpr int kRingFloats = 12288;  // 48 KiB of stack
+inline constexpr int kRingRows = 16;       // kh + 1 at most
+inline constexpr int kRingReach = 64;      // (kw - 1) * channels at most
+inline bool RingFits(const Window& win, int ch) {
+  return win.kh + 1 <= kRingRows && (win.kw - 1) * ch <= kRingReach;
+}
+
+// `pass(v, two, ring, y, tileStart, o)`: sums of block o (within the tile) of destination
+// row y (and y + 1 when `two`), ring(i) giving the converted source row of kernel row i.
+template <class T, int kCh, class Pass>
+void ConvertedRowPasses(const T* src, std::ptrdiff_t step, int n, int h, const Window& win, Pass&& pass) {
+  alignas(32) float ring[kRingFloats];
+  const int left = win.ax * kCh, reach = (win.kw - 1) * kCh, slots = win.kh + 1;
+  const int pitch = (kRingFloats / slots) & ~7, widest = pitch - reach;  // widest >= 8 by RingFits
+  const int tiles = (n + widest - 1) / widest;
+  const int even = std::min(widest, ((n + tiles - 1) / tiles + 7) & ~7);
+  for (int o0 = 0, tw = 0; o0 < n; o0 += tw) {
+    tw = std::min(even, n - o0);
+    if (tw < 8) {  // a last narrow tile overlaps the one before
+      o0 = n - 8;
+      tw = 8;
+    }
+    const int span = tw + reach;
+    auto convert = [&](int r) {
+      const T* s = Advance(src, static_cast<std::ptrdiff_t>(r) * step) + o0 - left;
+      float* d = ring + (r + win.ay) % slots * pitch;
+      int t = 0;
+      for (; t + 8 <= span; t += 8) _mm256_store_ps(d + t, LoadF8(s + t));
+      if (t < span) _mm256_storeu_ps(d + span - 8, LoadF8(s + span - 8));
+    };
+    int next = -win.ay;  // next source row to convert
+    for (int y = 0; y < h; y += 2) {
+      const bool two = y + 1 < h;
+      for (const int last = y - win.ay + win.kh - (two ? 0 : 1); next <= last; ++next) convert(next);
+      auto row = [&](int i) -> const float* { return ring + (y + i) % slots * pitch; };
+      auto block = [&](auto v, int o) {
+        if (two) pass(v, std::true_type{}, row, y, o0, o);
+        else pass(v, std::false_type{}, row, y, o0, o);
+      };
+      ForEachVectorBlock<4, 8>(tw, 0, block);
+    }
+  }
+}
 
 // ==== Integer kinds ==============================================================================
 
@@ -462,8 +597,26 @@ inline void IntRow(const T* src, std::ptrdiff_t step, T* dst, int n, const IntRo
   for (int s = 0; s < n; ++s) dst[s] = SatStore<T>(f.Apply(ScalarIntSum<T, kCh>(src, step, s, p)));
 }
 
+// Whether the exact sums of a kernel can be taken in float: with |sample| <= m and the
+// coefficients' absolute sum S, every product and every partial sum is an integer of
+// magnitude at most m * S. When m * S <= 2^24 each of them is a float exactly (floats hold
+// every integer up to 2^24), so each float multiply and add is exact whatever the rounding
+// control, the float sum equals the integer sum (which then cannot wrap either), and its
+// conversion back to 32 bits is exact.
+template <class T>
+inline bool SumsExactInFloat(const IntRowParams& p) {
+  const int n = p.win.kw * p.win.kh;
+  long long sum = 0;
+  for (int i = 0; i < n; ++i) sum += std::abs(static_cast<int>(p.rev[i]));
+  constexpr long long kMaxAbs = std::max(-static_cast<long long>(IntRange<T>::kLo), static_cast<long long>(IntRange<T>::kHi));
+  return sum * kMaxAbs <= (1LL << 24);
+}
+
 // The integer-kind routine over a w x h region. The rounding control is set for each row:
-// nearest for mode 1, toward zero for mode 0, the caller's for mode 2.
+// nearest for mode 1, toward zero for mode 0, the caller's for mode 2. Kernels whose sums are
+// exact in float and that fit the ring take the float form of the sums: each source row
+// converted once, eight lanes per multiply and add, two destination rows per pass, and the
+// exact sums handed to the route's finaliser as 32-bit integers.
 template <class T, int kCh, Isa kI>
 void IntRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstStep, int w, int h,
              const IntRowParams& p) {
@@ -471,10 +624,41 @@ void IntRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstSte
   const IntFinaliser f = MakeIntFinaliser<T>(p, route);
   const int mode = static_cast<int>(p.roundMode & 15);
   const int n = w * kCh;
-  for (int y = 0; y < h; ++y) {
-    std::optional<RoundingScope> rs;
+  auto scope = [mode](std::optional<RoundingScope>& rs) {
     if (mode == 1) rs.emplace(FpRound::kNearest);
     else if (mode == 0) rs.emplace(FpRound::kZero);
+  };
+  if constexpr (kI == Isa::kAvx && !std::is_same_v<T, Tpx16u>) {
+    if (n >= 8 && RingFits(p.win, kCh) && SumsExactInFloat<T>(p)) {
+      alignas(32) float kf[kRingRows * (kRingReach + 1)];  // the kernel in the caller's order
+      const int taps = p.win.kw * p.win.kh;
+      for (int i = 0; i < taps; ++i) kf[i] = static_cast<float>(p.rev[taps - 1 - i]);
+      const KernelView<float> k{kf, 1};
+      std::optional<RoundingScope> rs;
+      scope(rs);
+      auto store = [&](T* d, __m256 acc) __attribute__((always_inline)) {
+        const __m256i a = _mm256_cvttps_epi32(acc);  // exact: the sum is an integer
+        SatStore8(d, f.Apply(_mm256_castsi256_si128(a)), f.Apply(_mm256_extractf128_si256(a, 1)));
+      };
+      ConvertedRowPasses<T, kCh>(src, srcStep, n, h, p.win, [&](auto v, auto two, auto&& row, int y, int o0, int o) {
+        constexpr int kV = decltype(v)::value;
+        __m256 a0[kV] = {}, a1[kV] = {};
+        RowPairSumsAnyWidth<kCh, kV, decltype(two)::value>(row, o, p.win, k, a0, a1);
+        T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
+        #pragma GCC unroll 8
+        for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
+        if constexpr (decltype(two)::value) {
+          T* d1 = Advance(d0, dstStep);
+          #pragma GCC unroll 8
+          for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
+        }
+      });
+      return;
+    }
+  }
+  for (int y = 0; y < h; ++y) {
+    std::optional<RoundingScope> rs;
+    scope(rs);
     IntRow<T, kCh, kI>(src, srcStep, dst, n, p, f);
     src = Advance(src, srcStep);
     dst = Advance(dst, dstStep);
@@ -482,30 +666,6 @@ void IntRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstSte
 }
 
 // ==== Float kinds and float sums =================================================================
-
-template <class T>
-inline __m256 LoadF8(const T* p) {
-  if constexpr (std::is_same_v<T, float>) {
-    return _mm256_loadu_ps(p);
-  } else {
-    __m128i lo, hi;
-    if constexpr (std::is_same_v<T, Tpx8u>) {
-      const __m128i b = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
-      lo = _mm_cvtepu8_epi32(b);
-      hi = _mm_cvtepu8_epi32(_mm_srli_si128(b, 4));
-    } else {
-      const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-      if constexpr (std::is_same_v<T, Tpx16u>) {
-        lo = _mm_cvtepu16_epi32(v);
-        hi = _mm_cvtepu16_epi32(_mm_srli_si128(v, 8));
-      } else {
-        lo = _mm_cvtepi16_epi32(v);
-        hi = _mm_cvtepi16_epi32(_mm_srli_si128(v, 8));
-      }
-    }
-    return _mm256_cvtepi32_ps(_mm256_insertf128_si256(_mm256_castsi128_si256(lo), hi, 1));
-  }
-}
 
 // Float sums of one block of kV vectors (8 samples each) starting at sample o, taps in the
 // caller's order (kernel rows, then columns), the first product starting the sum. Samples of
@@ -645,12 +805,38 @@ struct FloatRowParams {
   int mode;  // 0, 1 or 2
 };
 
-// Float-kind routine (8u, 16u, 16s data with a float kernel). V = 8 samples; blocks of 64;
-// tail: overlapping last vector. Rows under 8 samples take the narrow form.
+// Float-kind routine (8u, 16u, 16s data with a float kernel). V = 8 samples; rows under 8
+// samples take the narrow form. Kernels that fit the ring convert each source row once and
+// compute two destination rows per pass; others convert per block of 64 samples. Tails:
+// overlapping last vector.
 template <class T, int kCh, Isa kI>
 void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstStep, int w, int h,
                    const FloatRowParams& p) {
   const int n = w * kCh;
+  if constexpr (kI == Isa::kAvx) {
+    const __m256 off = _mm256_set1_ps(p.offsetF);
+    auto store = [&](T* d, __m256 acc) __attribute__((always_inline)) {
+      const __m256 a = _mm256_add_ps(acc, off);
+      SatStore8(d, FloatToSample4<T>(_mm256_castps256_ps128(a), p.mode),
+                FloatToSample4<T>(_mm256_extractf128_ps(a, 1), p.mode));
+    };
+    if (n >= 8 && RingFits(p.win, kCh)) {
+      ConvertedRowPasses<T, kCh>(src, srcStep, n, h, p.win, [&](auto v, auto two, auto&& row, int y, int o0, int o) {
+        constexpr int kV = decltype(v)::value;
+        __m256 a0[kV] = {}, a1[kV] = {};
+        RowPairSumsAnyWidth<kCh, kV, decltype(two)::value>(row, o, p.win, p.k, a0, a1);
+        T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
+        #pragma GCC unroll 8
+        for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
+        if constexpr (decltype(two)::value) {
+          T* d1 = Advance(d0, dstStep);
+          #pragma GCC unroll 8
+          for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
+        }
+      });
+      return;
+    }
+  }
   for (int y = 0; y < h; ++y) {
     if (n < 8) {
       for (int s = 0; s < n; ++s)
@@ -678,24 +864,37 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
   }
 }
 
-// 32f sums stored as they are. V = 8; blocks of 64; tail: overlapping last vector.
+// 32f sums stored as they are. V = 8; two destination rows per pass, each loaded source
+// vector serving both; blocks of 32 samples; tail: overlapping last vector.
 template <int kCh, Isa kI>
 void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrdiff_t dstStep, int w, int h,
                  const Window& win, const KernelView<float>& k) {
   const int n = w * kCh;
-  for (int y = 0; y < h; ++y) {
-    if (kI == Isa::kAvx && n >= 8) {
+  if (kI == Isa::kAvx && n >= 8) {
+    for (int y = 0; y < h; y += 2) {
+      const float* top = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
+      auto row = [&](int i) { return Advance(top, static_cast<std::ptrdiff_t>(i) * srcStep); };
+      float* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep);
+      float* d1 = Advance(d0, dstStep);
       auto block = [&](auto v, int o) {
         constexpr int kV = decltype(v)::value;
-        __m256 acc[kV] = {};
-        FloatBlockSums<float, kCh, kV>(src, srcStep, o, win, k, acc);
+        __m256 a0[kV] = {}, a1[kV] = {};
+        if (y + 1 < h) {
+          RowPairSumsAnyWidth<kCh, kV, true>(row, o, win, k, a0, a1);
+          #pragma GCC unroll 8
+          for (int q = 0; q < kV; ++q) _mm256_storeu_ps(d1 + o + 8 * q, a1[q]);
+        } else {
+          RowPairSumsAnyWidth<kCh, kV, false>(row, o, win, k, a0, a1);
+        }
         #pragma GCC unroll 8
-        for (int q = 0; q < kV; ++q) _mm256_storeu_ps(dst + o + 8 * q, acc[q]);
+        for (int q = 0; q < kV; ++q) _mm256_storeu_ps(d0 + o + 8 * q, a0[q]);
       };
-      ForEachVectorBlock<8, 8>(n, 0, block);
-    } else {
-      for (int s = 0; s < n; ++s) dst[s] = FloatSum<float, kCh>(src, srcStep, s, win, k);
+      ForEachVectorBlock<4, 8>(n, 0, block);
     }
+    return;
+  }
+  for (int y = 0; y < h; ++y) {
+    for (int s = 0; s < n; ++s) dst[s] = FloatSum<float, kCh>(src, srcStep, s, win, k);
     src = Advance(src, srcStep);
     dst = Advance(dst, dstStep);
   }
