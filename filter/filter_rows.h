@@ -318,10 +318,12 @@ struct IntFinaliser {
   }
 
   // ---- vector, four lanes ----
+  // kFixed, when not negative, is the variant known at compile time.
+  template <int kFixed = -1>
   TPX_FILTER_INLINE __m128i Apply(__m128i a) const {
     const __m128i off = _mm_set1_epi32(offset);
     const __m128 sc = _mm_set1_ps(scale);
-    switch (variant) {
+    switch (kFixed >= 0 ? static_cast<Variant>(kFixed) : variant) {
       case kPlainRound:
       case kAccRint:
         return _mm_add_epi32(_mm_cvtps_epi32(_mm_mul_ps(_mm_cvtepi32_ps(a), sc)), off);
@@ -342,7 +344,7 @@ struct IntFinaliser {
         return _mm_add_epi32(_mm_sra_epi32(_mm_add_epi32(a, _mm_set1_epi32(half)), _mm_cvtsi32_si128(shift)), off);
       case kShiftFloor: return _mm_add_epi32(_mm_sra_epi32(a, _mm_cvtsi32_si128(shift)), off);
       case kIdentity: return _mm_add_epi32(a, off);
-      default: return Table(_mm_cvttps_epi32(_mm_add_ps(_mm_cvtepi32_ps(a), _mm_set1_ps(offsetF))));
+      default: return Table<kFixed>(_mm_cvttps_epi32(_mm_add_ps(_mm_cvtepi32_ps(a), _mm_set1_ps(offsetF))));
     }
   }
   __m128i ShiftEven(__m128i a) const {
@@ -350,16 +352,17 @@ struct IntFinaliser {
     const __m128i odd = _mm_and_si128(_mm_sra_epi32(a, sh), _mm_set1_epi32(1));
     return _mm_sra_epi32(_mm_add_epi32(_mm_add_epi32(a, _mm_set1_epi32(half - 1)), odd), sh);
   }
+  // The shift tables leave their clamp to the image range, and on unsigned images the zero
+  // of v < 1, to the saturating store (SatStore8) that follows every vector finaliser: for
+  // v < 1 each of the three gives a result <= 0, which the store turns into 0 as the table
+  // does, and the store's saturation is the clamp.
   __m128i ClampV(__m128i v) const {
     return _mm_min_epi32(_mm_max_epi32(v, _mm_set1_epi32(lo)), _mm_set1_epi32(hi));
   }
-  // Lanes where v < 1 become 0 on unsigned images.
-  __m128i PositiveOnly(__m128i v, __m128i r) const {
-    return isSigned ? r : _mm_andnot_si128(_mm_cmplt_epi32(v, _mm_set1_epi32(1)), r);
-  }
-  __m128i Table(__m128i v) const {
+  template <int kFixed = -1>
+  TPX_FILTER_INLINE __m128i Table(__m128i v) const {
     const __m128i sh = _mm_cvtsi32_si128(shift);
-    switch (variant) {
+    switch (kFixed >= 0 ? static_cast<Variant>(kFixed) : variant) {
       case kTabDivRound:
       case kTabDivAway:
       case kTabDivTrunc: {
@@ -394,11 +397,10 @@ struct IntFinaliser {
         const __m128i h = _mm_sra_epi32(v, sh);
         const __m128i low = _mm_and_si128(v, _mm_set1_epi32(half | (half - 1)));
         const __m128i s = _mm_add_epi32(_mm_add_epi32(low, _mm_set1_epi32(half - 1)), _mm_and_si128(h, _mm_set1_epi32(1)));
-        return PositiveOnly(v, ClampV(_mm_add_epi32(_mm_sra_epi32(s, sh), h)));
+        return _mm_add_epi32(_mm_sra_epi32(s, sh), h);
       }
-      case kTabShiftAway:
-        return PositiveOnly(v, ClampV(_mm_sra_epi32(_mm_add_epi32(v, _mm_set1_epi32(half)), sh)));
-      case kTabShiftTrunc: return PositiveOnly(v, ClampV(_mm_sra_epi32(v, sh)));
+      case kTabShiftAway: return _mm_sra_epi32(_mm_add_epi32(v, _mm_set1_epi32(half)), sh);
+      case kTabShiftTrunc: return _mm_sra_epi32(v, sh);
       default: return ClampV(v);
     }
   }
@@ -636,23 +638,38 @@ void IntRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstSte
       const KernelView<float> k{kf, 1};
       std::optional<RoundingScope> rs;
       scope(rs);
-      auto store = [&](T* d, __m256 acc) __attribute__((always_inline)) {
-        const __m256i a = _mm256_cvttps_epi32(acc);  // exact: the sum is an integer
-        SatStore8(d, f.Apply(_mm256_castsi256_si128(a)), f.Apply(_mm256_extractf128_si256(a, 1)));
-      };
-      ConvertedRowPasses<T, kCh>(src, srcStep, n, h, p.win, [&](auto v, auto two, auto&& row, int y, int o0, int o) {
-        constexpr int kV = decltype(v)::value;
-        __m256 a0[kV] = {}, a1[kV] = {};
-        RowPairSumsAnyWidth<kCh, kV, decltype(two)::value>(row, o, p.win, k, a0, a1);
-        T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
-        #pragma GCC unroll 8
-        for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
-        if constexpr (decltype(two)::value) {
-          T* d1 = Advance(d0, dstStep);
+      // The finalisers of the plain fast rows and of the scalar route's shift table are
+      // fixed at compile time; the others are chosen per vector.
+      using F = IntFinaliser;
+      auto run = [&](auto fixed) {
+        auto store = [&](T* d, __m256 acc) __attribute__((always_inline)) {
+          constexpr int kF = decltype(fixed)::value;
+          if constexpr (kF == F::kTabShiftEven) {
+            // (float)a is acc itself: v = trunc((float)a + offsetF) straight from the sum.
+            const __m256i v = _mm256_cvttps_epi32(_mm256_add_ps(acc, _mm256_set1_ps(f.offsetF)));
+            SatStore8(d, f.template Table<kF>(_mm256_castsi256_si128(v)), f.template Table<kF>(_mm256_extractf128_si256(v, 1)));
+          } else {
+            const __m256i a = _mm256_cvttps_epi32(acc);  // exact: the sum is an integer
+            SatStore8(d, f.template Apply<kF>(_mm256_castsi256_si128(a)), f.template Apply<kF>(_mm256_extractf128_si256(a, 1)));
+          }
+        };
+        ConvertedRowPasses<T, kCh>(src, srcStep, n, h, p.win, [&](auto v, auto two, auto&& row, int y, int o0, int o) {
+          constexpr int kV = decltype(v)::value;
+          __m256 a0[kV] = {}, a1[kV] = {};
+          RowPairSumsAnyWidth<kCh, kV, decltype(two)::value>(row, o, p.win, k, a0, a1);
+          T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
           #pragma GCC unroll 8
-          for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
-        }
-      });
+          for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
+          if constexpr (decltype(two)::value) {
+            T* d1 = Advance(d0, dstStep);
+            #pragma GCC unroll 8
+            for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
+          }
+        });
+      };
+      if (f.variant == F::kShiftEven) run(std::integral_constant<int, F::kShiftEven>{});
+      else if (f.variant == F::kTabShiftEven) run(std::integral_constant<int, F::kTabShiftEven>{});
+      else run(std::integral_constant<int, -1>{});
       return;
     }
   }
