@@ -644,7 +644,17 @@ void IntRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstSte
       auto run = [&](auto fixed) {
         auto store = [&](T* d, __m256 acc) __attribute__((always_inline)) {
           constexpr int kF = decltype(fixed)::value;
-          if constexpr (kF == F::kTabShiftEven) {
+          if constexpr (kF == F::kShiftEven) {
+            // a = q * 2^shift + r (floor division): the shift form gives q for r < half, q + 1
+            // for r > half and the even one of them for r == half, which is a * 2^-shift
+            // rounded half to even; that product is exact in float (a power-of-two scale of an
+            // integer below 2^24), so the rounding instruction gives the same integer.
+            const __m256 q = _mm256_round_ps(_mm256_mul_ps(acc, _mm256_set1_ps(f.scale)),
+                                             _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+            const __m256i r = _mm256_cvttps_epi32(q);
+            const __m128i off = _mm_set1_epi32(f.offset);
+            SatStore8(d, _mm_add_epi32(_mm256_castsi256_si128(r), off), _mm_add_epi32(_mm256_extractf128_si256(r, 1), off));
+          } else if constexpr (kF == F::kTabShiftEven) {
             // (float)a is acc itself: v = trunc((float)a + offsetF) straight from the sum.
             const __m256i v = _mm256_cvttps_epi32(_mm256_add_ps(acc, _mm256_set1_ps(f.offsetF)));
             SatStore8(d, f.template Table<kF>(_mm256_castsi256_si128(v)), f.template Table<kF>(_mm256_extractf128_si256(v, 1)));
