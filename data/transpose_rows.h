@@ -204,8 +204,9 @@ inline void TransposeTile(const unsigned char* s, std::ptrdiff_t ss, unsigned ch
   }
 }
 
-// The tile walk: edge min(width, height, 64), rows of tiles from the top, tiles from the left;
-// edge tiles have the remainder as extents; each tile fetches the lines of the one after it.
+// The tile walk: edge min(width, height, 64), columns of tiles from the left, tiles from the top,
+// so that destination rows fill in order; edge tiles have the remainder as extents; each tile
+// fetches the lines of the one after it.
 // s is element (0, 0) as in TransposeTile.
 template <int kE, bool kRev, int kA = 0, Isa kI = kIsa>
 inline void TransposeTiles(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds,
@@ -218,13 +219,13 @@ inline void TransposeTiles(const unsigned char* s, std::ptrdiff_t ss, unsigned c
     return std::pair{s + ty * ss + (kRev ? -tx : tx) * static_cast<std::ptrdiff_t>(kE),
                      d + tx * ds + ty * static_cast<std::ptrdiff_t>(kE)};
   };
-  for (int ty = 0; ty < roi.height; ty += t)
-    for (int tx = 0; tx < roi.width; tx += t) {
+  for (int tx = 0; tx < roi.width; tx += t)
+    for (int ty = 0; ty < roi.height; ty += t) {
       int th, tw;
       const auto [ts, td] = at(ty, tx, &th, &tw);
       NextTile next;
-      const int ny = tx + t < roi.width ? ty : ty + t, nx = tx + t < roi.width ? tx + t : 0;
-      if (ny < roi.height) std::tie(next.s, next.d) = at(ny, nx, &next.rows, &next.cols);
+      const int nx = ty + t < roi.height ? tx : tx + t, ny = ty + t < roi.height ? ty + t : 0;
+      if (nx < roi.width) std::tie(next.s, next.d) = at(ny, nx, &next.rows, &next.cols);
       TransposeTile<kI, kE, kRev, kA>(ts, ss, td, ds, th, tw, next);
     }
 }
