@@ -36,11 +36,22 @@ struct PlanarShuffle {
 template <int kS, int kC>
 inline constexpr PlanarShuffle<kS, kC> kPlanarShuffle{};
 
+// One 32-byte store of a planar copy; kStream: non-temporal, p on a 32-byte boundary.
+template <bool kStream>
+inline void StorePlanar8(void* p, __m256 v) {
+  if constexpr (kStream)
+    _mm256_stream_ps(static_cast<float*>(p), v);
+  else
+    _mm256_storeu_ps(static_cast<float*>(p), v);
+}
+
 // d[c][i] = s[kC * i + c], i < n, n >= 0. 32-bit samples: 8 pixels a step (AVX float shuffles,
 // which move bits unchanged); 8- and 16-bit: 16 / sizeof(T) pixels a step (pshufb, OR).
-// Tail: scalar.
-template <Isa kI, class T, int kC>
+// Tail: scalar. kStream (32-bit samples): the vector steps store with non-temporal stores, every
+// d[c] on a 32-byte boundary (see StreamHead); the caller fences.
+template <Isa kI, class T, int kC, bool kStream = false>
 inline void ToPlanarRow(const T* s, T* const* d, int n) {
+  static_assert(!kStream || sizeof(T) == 4, "streaming rows are 32-bit");
   int i = 0;
   if constexpr (kI == Isa::kAvx && sizeof(T) == 4) {
     for (; i + 8 <= n; i += 8) {
@@ -54,19 +65,19 @@ inline void ToPlanarRow(const T* s, T* const* d, int n) {
         m25 = _mm256_insertf128_ps(m25, _mm_loadu_ps(p + 20), 1);
         const __m256 xy = _mm256_shuffle_ps(m14, m25, _MM_SHUFFLE(2, 1, 3, 2));  // x2 y2 x3 y3
         const __m256 yz = _mm256_shuffle_ps(m03, m14, _MM_SHUFFLE(1, 0, 2, 1));  // y0 z0 y1 z1
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[0] + i), _mm256_shuffle_ps(m03, xy, _MM_SHUFFLE(2, 0, 3, 0)));
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[1] + i), _mm256_shuffle_ps(yz, xy, _MM_SHUFFLE(3, 1, 2, 0)));
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[2] + i), _mm256_shuffle_ps(yz, m25, _MM_SHUFFLE(3, 0, 3, 1)));
+        StorePlanar8<kStream>(d[0] + i, _mm256_shuffle_ps(m03, xy, _MM_SHUFFLE(2, 0, 3, 0)));
+        StorePlanar8<kStream>(d[1] + i, _mm256_shuffle_ps(yz, xy, _MM_SHUFFLE(3, 1, 2, 0)));
+        StorePlanar8<kStream>(d[2] + i, _mm256_shuffle_ps(yz, m25, _MM_SHUFFLE(3, 0, 3, 1)));
       } else {
         __m256 r[4];
         for (int k = 0; k < 4; ++k)  // pixel k below, pixel k + 4 above
           r[k] = _mm256_insertf128_ps(_mm256_castps128_ps256(_mm_loadu_ps(p + 4 * k)), _mm_loadu_ps(p + 16 + 4 * k), 1);
         const __m256 t0 = _mm256_unpacklo_ps(r[0], r[1]), t1 = _mm256_unpackhi_ps(r[0], r[1]);
         const __m256 t2 = _mm256_unpacklo_ps(r[2], r[3]), t3 = _mm256_unpackhi_ps(r[2], r[3]);
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[0] + i), _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(1, 0, 1, 0)));
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[1] + i), _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(3, 2, 3, 2)));
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[2] + i), _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(1, 0, 1, 0)));
-        _mm256_storeu_ps(reinterpret_cast<float*>(d[3] + i), _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(3, 2, 3, 2)));
+        StorePlanar8<kStream>(d[0] + i, _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(1, 0, 1, 0)));
+        StorePlanar8<kStream>(d[1] + i, _mm256_shuffle_ps(t0, t2, _MM_SHUFFLE(3, 2, 3, 2)));
+        StorePlanar8<kStream>(d[2] + i, _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(1, 0, 1, 0)));
+        StorePlanar8<kStream>(d[3] + i, _mm256_shuffle_ps(t1, t3, _MM_SHUFFLE(3, 2, 3, 2)));
       }
     }
   } else if constexpr (kI == Isa::kAvx) {
@@ -87,9 +98,11 @@ inline void ToPlanarRow(const T* s, T* const* d, int n) {
     for (int c = 0; c < kC; ++c) d[c][i] = s[kC * i + c];
 }
 
-// d[kC * i + c] = s[c][i], i < n, n >= 0. Same steps as ToPlanarRow. Tail: scalar.
-template <Isa kI, class T, int kC>
+// d[kC * i + c] = s[c][i], i < n, n >= 0. Same steps as ToPlanarRow. Tail: scalar. kStream
+// (32-bit samples): non-temporal vector stores, d on a 32-byte boundary; the caller fences.
+template <Isa kI, class T, int kC, bool kStream = false>
 inline void FromPlanarRow(const T* const* s, T* d, int n) {
+  static_assert(!kStream || sizeof(T) == 4, "streaming rows are 32-bit");
   int i = 0;
   if constexpr (kI == Isa::kAvx && sizeof(T) == 4) {
     for (; i + 8 <= n; i += 8) {
@@ -116,14 +129,14 @@ inline void FromPlanarRow(const T* const* s, T* d, int n) {
       }
       // o[k] holds pixels 0..3 below and 4..7 above: pair the halves into whole 32-byte stores.
       if constexpr (kC == 3) {
-        _mm256_storeu_ps(p, _mm256_permute2f128_ps(o[0], o[1], 0x20));
-        _mm256_storeu_ps(p + 8, _mm256_permute2f128_ps(o[2], o[0], 0x30));
-        _mm256_storeu_ps(p + 16, _mm256_permute2f128_ps(o[1], o[2], 0x31));
+        StorePlanar8<kStream>(p, _mm256_permute2f128_ps(o[0], o[1], 0x20));
+        StorePlanar8<kStream>(p + 8, _mm256_permute2f128_ps(o[2], o[0], 0x30));
+        StorePlanar8<kStream>(p + 16, _mm256_permute2f128_ps(o[1], o[2], 0x31));
       } else {
-        _mm256_storeu_ps(p, _mm256_permute2f128_ps(o[0], o[1], 0x20));
-        _mm256_storeu_ps(p + 8, _mm256_permute2f128_ps(o[2], o[3], 0x20));
-        _mm256_storeu_ps(p + 16, _mm256_permute2f128_ps(o[0], o[1], 0x31));
-        _mm256_storeu_ps(p + 24, _mm256_permute2f128_ps(o[2], o[3], 0x31));
+        StorePlanar8<kStream>(p, _mm256_permute2f128_ps(o[0], o[1], 0x20));
+        StorePlanar8<kStream>(p + 8, _mm256_permute2f128_ps(o[2], o[3], 0x20));
+        StorePlanar8<kStream>(p + 16, _mm256_permute2f128_ps(o[0], o[1], 0x31));
+        StorePlanar8<kStream>(p + 24, _mm256_permute2f128_ps(o[2], o[3], 0x31));
       }
     }
   } else if constexpr (kI == Isa::kAvx) {
@@ -146,12 +159,76 @@ inline void FromPlanarRow(const T* const* s, T* d, int n) {
 
 // Query floor of the streaming planar copies, in samples of the image.
 inline constexpr long long kPlanarStreamFloor = 0x80001;
-// Pixels a streaming step stages on the stack before the streaming copy writes them out.
+// Pixels a streaming step stages on the stack where the planes are out of phase.
 inline constexpr int kPlanarStage = 512;
 
+// Pixels (0..7) a streaming 32-bit row takes with plain stores before every destination vector of
+// its steps starts on a 32-byte boundary: pixel h of destination k lies at at[k] + h * pixelBytes.
+// -1: no such count (planes out of phase with each other, samples off their 4-byte boundaries,
+// C4 pixels off 16).
+template <int kN>
+inline int StreamHead(const void* const (&at)[kN], int pixelBytes) {
+  for (int h = 0; h < 8; ++h) {
+    bool aligned = true;
+    for (int k = 0; k < kN; ++k)
+      aligned = aligned && (reinterpret_cast<std::uintptr_t>(at[k]) + static_cast<unsigned>(h * pixelBytes)) % 32 == 0;
+    if (aligned) return h;
+  }
+  return -1;
+}
+
+// One streaming row of ToPlanarImage: the head plainly, then non-temporal stores straight to the
+// planes; planes out of phase with each other go through a stack block and the streaming row
+// copy instead.
+template <Isa kI, class T, int kC>
+inline void ToPlanarRowStreaming(const T* s, T* const* d, int n) {
+  const void* at[kC];
+  for (int c = 0; c < kC; ++c) at[c] = d[c];
+  const int head = StreamHead(at, sizeof(T));
+  if (head >= 0) {
+    const int h = head < n ? head : n;
+    ToPlanarRow<Isa::kScalar, T, kC>(s, d, h);
+    T* rest[kC];
+    for (int c = 0; c < kC; ++c) rest[c] = d[c] + h;
+    ToPlanarRow<kI, T, kC, true>(s + kC * h, rest, n - h);
+    return;
+  }
+  alignas(32) T stage[kC][kPlanarStage];
+  T* sp[kC];
+  for (int c = 0; c < kC; ++c) sp[c] = stage[c];
+  for (int x = 0; x < n; x += kPlanarStage) {
+    const int m = n - x < kPlanarStage ? n - x : kPlanarStage;
+    ToPlanarRow<kI, T, kC>(s + kC * x, sp, m);
+    for (int c = 0; c < kC; ++c) CopyBytes<kI, true>(stage[c], d[c] + x, m * sizeof(T));
+  }
+}
+
+// One streaming row of FromPlanarImage, as ToPlanarRowStreaming; only a C4 destination off a
+// 16-byte boundary (or samples off 4) needs the stack block.
+template <Isa kI, class T, int kC>
+inline void FromPlanarRowStreaming(const T* const* s, T* d, int n) {
+  const void* at[1] = {d};
+  const int head = StreamHead(at, kC * sizeof(T));
+  if (head >= 0) {
+    const int h = head < n ? head : n;
+    FromPlanarRow<Isa::kScalar, T, kC>(s, d, h);
+    const T* rest[kC];
+    for (int c = 0; c < kC; ++c) rest[c] = s[c] + h;
+    FromPlanarRow<kI, T, kC, true>(rest, d + kC * h, n - h);
+    return;
+  }
+  alignas(32) T stage[kC * kPlanarStage];
+  const T* sp[kC];
+  for (int x = 0; x < n; x += kPlanarStage) {
+    const int m = n - x < kPlanarStage ? n - x : kPlanarStage;
+    for (int c = 0; c < kC; ++c) sp[c] = s[c] + x;
+    FromPlanarRow<kI, T, kC>(sp, stage, m);
+    CopyBytes<kI, true>(stage, d + kC * x, static_cast<std::size_t>(m) * kC * sizeof(T));
+  }
+}
+
 // Interleaved image s to planes d[0..kC). kMayStream: the two-stage cache test runs on the
-// image's samples, and a streaming call converts through a stack block and writes with the
-// streaming row copy.
+// image's samples, and a streaming call writes its rows with ToPlanarRowStreaming.
 template <class T, int kC, bool kMayStream, Isa kI = kIsa>
 inline void ToPlanarImage(const T* s, std::ptrdiff_t ss, T* const* d, std::ptrdiff_t ds, TpxSize roi,
                           CacheSizeQuery query = tpxGetMaxCacheSizeB) {
@@ -160,18 +237,10 @@ inline void ToPlanarImage(const T* s, std::ptrdiff_t ss, T* const* d, std::ptrdi
   T* planes[kC];
   for (int c = 0; c < kC; ++c) planes[c] = d[c];
   for (int y = 0; y < roi.height; ++y) {
-    if (!stream) {
+    if (!stream)
       ToPlanarRow<kI, T, kC>(s, planes, roi.width);
-    } else {
-      alignas(32) T stage[kC][kPlanarStage];
-      T* sp[kC];
-      for (int c = 0; c < kC; ++c) sp[c] = stage[c];
-      for (int x = 0; x < roi.width; x += kPlanarStage) {
-        const int n = roi.width - x < kPlanarStage ? roi.width - x : kPlanarStage;
-        ToPlanarRow<kI, T, kC>(s + kC * x, sp, n);
-        for (int c = 0; c < kC; ++c) CopyBytes<kI, true>(stage[c], planes[c] + x, n * sizeof(T));
-      }
-    }
+    else if constexpr (kMayStream)
+      ToPlanarRowStreaming<kI, T, kC>(s, planes, roi.width);
     s = Advance(s, ss);
     for (int c = 0; c < kC; ++c) planes[c] = Advance(planes[c], ds);
   }
@@ -187,18 +256,10 @@ inline void FromPlanarImage(const T* const* s, std::ptrdiff_t ss, T* d, std::ptr
   const T* planes[kC];
   for (int c = 0; c < kC; ++c) planes[c] = s[c];
   for (int y = 0; y < roi.height; ++y) {
-    if (!stream) {
+    if (!stream)
       FromPlanarRow<kI, T, kC>(planes, d, roi.width);
-    } else {
-      alignas(32) T stage[kC * kPlanarStage];
-      const T* sp[kC];
-      for (int x = 0; x < roi.width; x += kPlanarStage) {
-        const int n = roi.width - x < kPlanarStage ? roi.width - x : kPlanarStage;
-        for (int c = 0; c < kC; ++c) sp[c] = planes[c] + x;
-        FromPlanarRow<kI, T, kC>(sp, stage, n);
-        CopyBytes<kI, true>(stage, d + kC * x, static_cast<std::size_t>(n) * kC * sizeof(T));
-      }
-    }
+    else if constexpr (kMayStream)
+      FromPlanarRowStreaming<kI, T, kC>(planes, d, roi.width);
     d = Advance(d, ds);
     for (int c = 0; c < kC; ++c) planes[c] = Advance(planes[c], ss);
   }

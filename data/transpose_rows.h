@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <tuple>
+#include <utility>
 
 #include "core/isa.h"
 #include "core/stream.h"
@@ -146,13 +148,31 @@ inline void TransposeBlock(const unsigned char* s, std::ptrdiff_t ss, unsigned c
   }
 }
 
+// The tile a walk visits after the current one: its corner elements as in TransposeTile and its
+// extents. rows == 0: none.
+struct NextTile {
+  const unsigned char* s = nullptr;
+  const unsigned char* d = nullptr;
+  int rows = 0, cols = 0;
+};
+
+// Asks for the cache lines of the n bytes from p (n >= 1) into the second-level cache, which
+// keeps the first level for the tile at work; a prefetch never faults or writes.
+inline void PrefetchBytes(const unsigned char* p, std::ptrdiff_t n) {
+  const std::uintptr_t first = reinterpret_cast<std::uintptr_t>(p) & ~std::uintptr_t{63};
+  const std::uintptr_t last = reinterpret_cast<std::uintptr_t>(p) + static_cast<std::uintptr_t>(n - 1);
+  for (std::uintptr_t a = first; a <= last; a += 64) _mm_prefetch(reinterpret_cast<const char*>(a), _MM_HINT_T1);
+}
+
 // d(c, r) = s(r, c) for r < rows, c < cols. Element (r, c) of s lies at s + r*ss + c*kE (kRev:
 // s + r*ss - c*kE), element (c, r) of d at d + c*ds + r*kE. Whole blocks by the vector kernel,
 // the edges of the tile by the element loop. kA > 0: AC4 pixels of kA-byte samples, whose
-// destination alpha stays.
+// destination alpha stays. `next`: while the blocks go, the source and destination rows of the
+// next tile are fetched a few rows a block; a tile's rows lie far apart, so neither the hardware
+// prefetcher nor the out-of-order window would otherwise overlap their misses.
 template <Isa kI, int kE, bool kRev, int kA = 0>
 inline void TransposeTile(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds,
-                          int rows, int cols) {
+                          int rows, int cols, NextTile next = {}) {
   auto src = [&](int r, int c) { return s + r * ss + (kRev ? -c : c) * static_cast<std::ptrdiff_t>(kE); };
   auto dst = [&](int c, int r) { return d + c * ds + r * static_cast<std::ptrdiff_t>(kE); };
   auto elements = [&](int r0, int r1, int c0, int c1) {
@@ -162,10 +182,21 @@ inline void TransposeTile(const unsigned char* s, std::ptrdiff_t ss, unsigned ch
   constexpr int kB = TransposeBlockEdge(kE);
   if constexpr (kI == Isa::kAvx && kB > 0) {
     const int rb = rows - rows % kB, cb = cols - cols % kB;
+    // Rows of the next tile fetched per block: its source rows and its destination rows.
+    const int blocks = (rb / kB) * (cb / kB);
+    const int perS = blocks > 0 ? (next.rows + blocks - 1) / blocks : 0;
+    const int perD = blocks > 0 ? (next.cols + blocks - 1) / blocks : 0;
+    const std::ptrdiff_t rowS = static_cast<std::ptrdiff_t>(next.cols) * kE, rowD = static_cast<std::ptrdiff_t>(next.rows) * kE;
+    int fs = 0, fd = 0;  // next source row, next destination row to fetch
     // Blocks go down the tile's columns: the destination rows of one column of blocks are
     // written from left to right while the source is read down the column.
     for (int c = 0; c < cb; c += kB)
-      for (int r = 0; r < rb; r += kB) TransposeBlock<kE, kRev, kA>(src(r, c), ss, dst(c, r), ds);
+      for (int r = 0; r < rb; r += kB) {
+        for (int k = 0; k < perS && fs < next.rows; ++k, ++fs)
+          PrefetchBytes(next.s + fs * ss - (kRev ? rowS - kE : 0), rowS);
+        for (int k = 0; k < perD && fd < next.cols; ++k, ++fd) PrefetchBytes(next.d + fd * ds, rowD);
+        TransposeBlock<kE, kRev, kA>(src(r, c), ss, dst(c, r), ds);
+      }
     elements(0, rb, cb, cols);
     elements(rb, rows, 0, cols);
   } else {
@@ -173,21 +204,30 @@ inline void TransposeTile(const unsigned char* s, std::ptrdiff_t ss, unsigned ch
   }
 }
 
-// The tile walk: edge min(width, height, 64), rows of tiles from the top, tiles from the left;
-// edge tiles have the remainder as extents. s is element (0, 0) as in TransposeTile.
+// The tile walk: edge min(width, height, 64), columns of tiles from the left, tiles from the top,
+// so that destination rows fill in order; edge tiles have the remainder as extents; each tile
+// fetches the lines of the one after it.
+// s is element (0, 0) as in TransposeTile.
 template <int kE, bool kRev, int kA = 0, Isa kI = kIsa>
 inline void TransposeTiles(const unsigned char* s, std::ptrdiff_t ss, unsigned char* d, std::ptrdiff_t ds,
                            TpxSize roi) {
   int t = roi.width < roi.height ? roi.width : roi.height;
   if (t > 64) t = 64;
-  for (int ty = 0; ty < roi.height; ty += t) {
-    const int th = roi.height - ty < t ? roi.height - ty : t;
-    for (int tx = 0; tx < roi.width; tx += t) {
-      const int tw = roi.width - tx < t ? roi.width - tx : t;
-      TransposeTile<kI, kE, kRev, kA>(s + ty * ss + (kRev ? -tx : tx) * static_cast<std::ptrdiff_t>(kE), ss,
-                                  d + tx * ds + ty * static_cast<std::ptrdiff_t>(kE), ds, th, tw);
+  auto at = [&](int ty, int tx, int* th, int* tw) {
+    *th = roi.height - ty < t ? roi.height - ty : t;
+    *tw = roi.width - tx < t ? roi.width - tx : t;
+    return std::pair{s + ty * ss + (kRev ? -tx : tx) * static_cast<std::ptrdiff_t>(kE),
+                     d + tx * ds + ty * static_cast<std::ptrdiff_t>(kE)};
+  };
+  for (int tx = 0; tx < roi.width; tx += t)
+    for (int ty = 0; ty < roi.height; ty += t) {
+      int th, tw;
+      const auto [ts, td] = at(ty, tx, &th, &tw);
+      NextTile next;
+      const int nx = ty + t < roi.height ? tx : tx + t, ny = ty + t < roi.height ? ty + t : 0;
+      if (nx < roi.width) std::tie(next.s, next.d) = at(ny, nx, &next.rows, &next.cols);
+      TransposeTile<kI, kE, kRev, kA>(ts, ss, td, ds, th, tw, next);
     }
-  }
 }
 
 // The large-image path: extents multiples of 64 and destination rows on 64-byte boundaries.

@@ -302,6 +302,60 @@ TEST(CopyStreaming, PlanarEqualsPlainPath) {
   }
 }
 
+// A streaming planar row writes the bytes of the scalar row and nothing else, for every phase of
+// its destinations: planes in phase at each of the eight heads, planes out of phase with each
+// other and C4 pixels off 16 bytes (the stack block), widths below a step and past the block.
+template <class T>
+T* Aligned64(std::vector<T>& v) {
+  return v.data() + ((0u - reinterpret_cast<std::uintptr_t>(v.data())) & 63u) / sizeof(T);
+}
+
+template <int kC>
+void StreamRowCase(int n, const int (&planeShift)[kC], int packedShift, Rng& rng) {
+  using T = Tpx32f;
+  const int slot = (n + 16 + 15) / 16 * 16 + 16;  // samples of one plane's room, a multiple of 64 bytes
+  std::vector<T> packed(kC * (n + 16) + 32), planesA(kC * slot + 16), planesB(planesA.size());
+  for (auto& v : packed) v = rng.Sample<T>();
+  for (auto& v : planesA) v = rng.Sample<T>();
+  std::memcpy(Aligned64(planesB), Aligned64(planesA), kC * slot * sizeof(T));  // the aligned parts compare
+  T *a[kC], *b[kC];
+  for (int c = 0; c < kC; ++c) {
+    a[c] = Aligned64(planesA) + c * slot + 8 + planeShift[c];
+    b[c] = Aligned64(planesB) + c * slot + 8 + planeShift[c];
+  }
+  const T* src = Aligned64(packed) + packedShift;
+  tpx::ToPlanarRowStreaming<tpx::Isa::kAvx, T, kC>(src, a, n);
+  tpx::StreamFence();
+  tpx::ToPlanarRow<tpx::Isa::kScalar, T, kC>(src, b, n);
+  ASSERT_EQ(0, std::memcmp(Aligned64(planesA), Aligned64(planesB), kC * slot * sizeof(T)))
+      << "to planes, C" << kC << " n=" << n << " shift " << planeShift[0] << "," << planeShift[1];
+
+  const std::size_t room = kC * (n + 8) + 16;
+  std::vector<T> outA(room + 16), outB(room + 16);
+  for (auto& v : outA) v = rng.Sample<T>();
+  std::memcpy(Aligned64(outB), Aligned64(outA), room * sizeof(T));
+  const T* ca[kC];
+  for (int c = 0; c < kC; ++c) ca[c] = a[c];
+  tpx::FromPlanarRowStreaming<tpx::Isa::kAvx, T, kC>(ca, Aligned64(outA) + packedShift, n);
+  tpx::StreamFence();
+  tpx::FromPlanarRow<tpx::Isa::kScalar, T, kC>(ca, Aligned64(outB) + packedShift, n);
+  ASSERT_EQ(0, std::memcmp(Aligned64(outA), Aligned64(outB), room * sizeof(T)))
+      << "from planes, C" << kC << " n=" << n << " packed shift " << packedShift;
+}
+
+TEST(CopyStreaming, PlanarRowsEveryPhase) {
+  Rng rng(13);
+  for (int n : {0, 1, 5, 8, 9, 15, 16, 17, 33, 200, 530, 1100})
+    for (int k = 0; k < 8; ++k) {
+      const int inPhase3[3] = {k, k, k}, inPhase4[4] = {k, k, k, k};
+      const int outOfPhase3[3] = {k, (k + 1) % 8, k}, outOfPhase4[4] = {k, k, k, (k + 3) % 8};
+      StreamRowCase<3>(n, inPhase3, k, rng);
+      StreamRowCase<4>(n, inPhase4, k, rng);  // packed shifts 0 and 4 reach 16 bytes, the others not
+      StreamRowCase<3>(n, outOfPhase3, 7 - k, rng);
+      StreamRowCase<4>(n, outOfPhase4, 7 - k, rng);
+    }
+}
+
 // ---- Vector kernels against their scalar twins --------------------------------------------
 template <class T, int kSi, int kSo>
 void MapTwin(std::initializer_list<int> from, bool inPlace, int srcLast, int dstLast, Rng& rng) {
