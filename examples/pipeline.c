@@ -91,7 +91,7 @@ static TpxStatus StageSharpen(Job* j) {
 }
 
 static TpxStatus StageSegment(Job* j) {
-  TpxStatus st = tpxiComputeThreshold_Otsu_8u_C1R(j->smooth, j->smoothStep, j->roi, &j->threshold);
+  TpxStatus st = tpxiComputeThreshold_Otsu_8u_C1R(j->gray, j->grayStep, j->roi, &j->threshold);
   if (st < 0) return st;
   st = tpxiCompareC_8u_C1R(j->smooth, j->smoothStep, j->threshold, j->mask, j->maskStep, j->roi,
                            tpxCmpGreater);
