@@ -5,6 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
 jobs=$(nproc)
+# Lets a compiler cache (where one is installed) serve any checkout of this tree.
+export CCACHE_BASEDIR="$PWD"
 for preset in release sanitize; do
   echo "== $preset"
   cmake --preset "$preset" >/dev/null
