@@ -25,7 +25,6 @@
 #include <immintrin.h>
 
 #include <cstdint>
-#include <optional>
 #include <type_traits>
 
 #include "core/fpround.h"
@@ -52,16 +51,19 @@ inline decltype(auto) WithRoundKind(RoundKind k, F&& f) {
   }
 }
 
-// The rounding control a row of kind k needs, for the length of the scope.
+// The rounding control a row of kind k needs, for the length of the scope: nearest for
+// kNearest, truncation for kHalfAway, and the caller's own for kZero (which changes nothing).
 class FloatToIntScope {
  public:
-  explicit FloatToIntScope(RoundKind k) {
-    if (k == RoundKind::kNearest) scope_.emplace(FpRound::kNearest);
-    if (k == RoundKind::kHalfAway) scope_.emplace(FpRound::kZero);
-  }
+  explicit FloatToIntScope(RoundKind k) : scope_(Needed(k)) {}
 
  private:
-  std::optional<RoundingScope> scope_;
+  static FpRound Needed(RoundKind k) {
+    if (k == RoundKind::kNearest) return FpRound::kNearest;
+    if (k == RoundKind::kHalfAway) return FpRound::kZero;
+    return static_cast<FpRound>(_mm_getcsr() & _MM_ROUND_MASK);
+  }
+  RoundingScope scope_;
 };
 
 // Returns v through an empty volatile asm, so that arithmetic on the result can move neither

@@ -33,23 +33,14 @@ TPX_CONVERT_RS(TPX_CONVERT_RS_ONE)
 #define TPX_CONVERT_ROUND_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_CONVERT_ROUND, S, D)
 TPX_CONVERT_ROUND_4L(TPX_CONVERT_ROUND_ALL)
 
-#define TPX_CONVERT_FLOAT_SFS_ONE(S, D)                                                             \
+#define TPX_CONVERT_SFS_ONE(S, D)                                                                   \
   TPX_API TpxStatus tpxiConvert_##S##D##_C1RSfs(const Tpx##S* pSrc, int srcStep, Tpx##D* pDst,      \
                                                 int dstStep, TpxSize roiSize, TpxRoundMode roundMode, \
                                                 int scaleFactor) {                                 \
-    return cvt::ConvertFloat<Tpx##S, Tpx##D, Layout::C1>(pSrc, srcStep, pDst, dstStep, roiSize,     \
-                                                         roundMode, scaleFactor);                  \
+    return cvt::ConvertSfs<Tpx##S, Tpx##D>(pSrc, srcStep, pDst, dstStep, roiSize, roundMode, scaleFactor); \
   }
-TPX_CONVERT_FLOAT_SFS(TPX_CONVERT_FLOAT_SFS_ONE)
-
-#define TPX_CONVERT_INT_SFS_ONE(S, D)                                                               \
-  TPX_API TpxStatus tpxiConvert_##S##D##_C1RSfs(const Tpx##S* pSrc, int srcStep, Tpx##D* pDst,      \
-                                                int dstStep, TpxSize roiSize, TpxRoundMode roundMode, \
-                                                int scaleFactor) {                                 \
-    return cvt::ConvertIntSfs<Tpx##S, Tpx##D>(pSrc, srcStep, pDst, dstStep, roiSize, roundMode,     \
-                                              scaleFactor);                                        \
-  }
-TPX_CONVERT_INT_SFS(TPX_CONVERT_INT_SFS_ONE)
+TPX_CONVERT_FLOAT_SFS(TPX_CONVERT_SFS_ONE)
+TPX_CONVERT_INT_SFS(TPX_CONVERT_SFS_ONE)
 
 TPX_API TpxStatus tpxiConvert_32f32u_C1IRSfs(Tpx32u* pSrcDst, int srcDstStep, TpxSize roiSize,
                                              TpxRoundMode roundMode, int scaleFactor) {

@@ -121,4 +121,13 @@ TpxStatus ConvertIntSfs(const S* src, int srcStep, D* dst, int dstStep, TpxSize 
   return tpxOk;
 }
 
+// The C1RSfs members: the float rule for float sources, the integer rule for the others.
+template <class S, class D>
+TpxStatus ConvertSfs(const S* src, int srcStep, D* dst, int dstStep, TpxSize roi, int roundMode, int sf) {
+  if constexpr (std::is_floating_point_v<S>)
+    return ConvertFloat<S, D, Layout::C1>(src, srcStep, dst, dstStep, roi, roundMode, sf);
+  else
+    return ConvertIntSfs<S, D>(src, srcStep, dst, dstStep, roi, roundMode, sf);
+}
+
 }  // namespace tpx::cvt

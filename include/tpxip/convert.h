@@ -223,7 +223,8 @@ TPXAPI TpxStatus tpxiConvert_16s8s_C1RSfs(const Tpx16s* pSrc, int srcStep, Tpx8s
     TpxSize roiSize, TpxRoundMode roundMode, int scaleFactor);
 TPXAPI TpxStatus tpxiConvert_8u8s_C1RSfs(const Tpx8u* pSrc, int srcStep, Tpx8s* pDst, int dstStep,
     TpxSize roiSize, TpxRoundMode roundMode, int scaleFactor);
-/* In place: the 32f samples of the image are replaced by their 32u results. */
+/* In place: the image holds 32f samples on entry and their 32u results on return (hence the
+   Tpx32u pointer); the float rule is that of tpxiConvert_32f32u_C1RSfs. */
 TPXAPI TpxStatus tpxiConvert_32f32u_C1IRSfs(Tpx32u* pSrcDst, int srcDstStep, TpxSize roiSize,
     TpxRoundMode roundMode, int scaleFactor);
 /* ---- Scale: maps a range onto another. vMax - vMin must be above 0 (tpxErrScaleRange,

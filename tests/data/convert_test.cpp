@@ -319,14 +319,19 @@ TEST(ConvertChecks, OrderByMemberClass) {
 }
 
 TEST(ConvertChecks, NoStepCheckMeansTheStepIsUsed) {
-  // A step of 0 converts the same row three times; a step of 1 with a width of 4 passes too.
+  // A step of 0 converts the same row three times.
   const Tpx16s src[4] = {-5, 300, 7, 32767};
   Tpx8u dst[12];
   std::memset(dst, 0xEE, sizeof dst);
   ASSERT_EQ(tpxiConvert_16s8u_C1R(src, 0, dst, 4, TpxSize{4, 3}), tpxOk);
   const Tpx8u row[4] = {0, 255, 7, 255};
   for (int y = 0; y < 3; ++y) EXPECT_EQ(std::memcmp(dst + 4 * y, row, 4), 0) << y;
-  EXPECT_EQ(tpxiConvert_16s8u_C1R(src, 1, dst, 1, TpxSize{4, 2}), tpxOk);
+  // Rows one sample apart overlap; the steps are used as given.
+  const Tpx8s small[5] = {-1, 2, -3, 4, 5};
+  Tpx16u wide[5] = {};
+  ASSERT_EQ(tpxiConvert_8s16u_C1Rs(small, 1, wide, 2, TpxSize{4, 2}), tpxOk);
+  const Tpx16u rowsApart[5] = {0, 2, 0, 4, 5};
+  EXPECT_EQ(std::memcmp(wide, rowsApart, sizeof wide), 0);
 }
 
 // ---- Streaming decisions ---------------------------------------------------------------------------
