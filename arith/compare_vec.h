@@ -32,35 +32,36 @@ struct Int128 {
 template <class T>
 struct Vec;
 
-// Unsigned lanes have no ordered compare: a <= b is max(a, b) == b, a >= b is min(a, b) == b.
-// Less is delivered as its negation (a >= b), two instructions, with kLessInverted set.
-template <>
-struct Vec<Tpx8u> : Int128 {
-  static constexpr int kLanes = 16;
+// Unsigned lanes have no ordered compare: a <= b is max(a, b) == b. Less is delivered as its
+// negation (a >= b is max(a, b) == a), two instructions, with kLessInverted set.
+template <class D>
+struct UnsignedOrder : Int128 {
   static constexpr bool kLessInverted = true, kLessEqInverted = false;
+  static V LessMask(V a, V b) { return D::Eq(D::Max(a, b), a); }
+  static V LessEqMask(V a, V b) { return D::Eq(D::Max(a, b), b); }
+};
+
+// Biased(): samples moved to the signed range, where Gt() is the one ordered compare.
+template <>
+struct Vec<Tpx8u> : UnsignedOrder<Vec<Tpx8u>> {
+  static constexpr int kLanes = 16;
   static V Min(V a, V b) { return _mm_min_epu8(a, b); }
   static V Max(V a, V b) { return _mm_max_epu8(a, b); }
   static V Eq(V a, V b) { return _mm_cmpeq_epi8(a, b); }
-  // Ordered compares on samples moved to the signed range (bias 0x80): Gt(Biased(a), Biased(b)).
   static V Biased(V a) { return _mm_xor_si128(a, _mm_set1_epi8(static_cast<char>(0x80))); }
   static V Gt(V a, V b) { return _mm_cmpgt_epi8(a, b); }
-  static V LessMask(V a, V b) { return Eq(Max(a, b), a); }
-  static V LessEqMask(V a, V b) { return Eq(Max(a, b), b); }
-  // Byte masks of 16 consecutive samples from the masks of one vector.
+  // Byte masks of 16 consecutive samples from the masks of one vector (two for wider types).
   static __m128i ToBytes(const V* m) { return m[0]; }
 };
 
 template <>
-struct Vec<Tpx16u> : Int128 {
+struct Vec<Tpx16u> : UnsignedOrder<Vec<Tpx16u>> {
   static constexpr int kLanes = 8;
-  static constexpr bool kLessInverted = true, kLessEqInverted = false;
   static V Min(V a, V b) { return _mm_min_epu16(a, b); }
   static V Max(V a, V b) { return _mm_max_epu16(a, b); }
   static V Eq(V a, V b) { return _mm_cmpeq_epi16(a, b); }
   static V Biased(V a) { return _mm_xor_si128(a, _mm_set1_epi16(static_cast<short>(0x8000))); }
   static V Gt(V a, V b) { return _mm_cmpgt_epi16(a, b); }
-  static V LessMask(V a, V b) { return Eq(Max(a, b), a); }
-  static V LessEqMask(V a, V b) { return Eq(Max(a, b), b); }
   static __m128i ToBytes(const V* m) { return _mm_packs_epi16(m[0], m[1]); }
 };
 
