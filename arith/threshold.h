@@ -26,7 +26,7 @@ template <class Op, class T, Layout kL, Isa kI = kIsa>
 inline void ThresholdRegion(const T* src, int srcStep, T* dst, int dstStep, TpxSize roi,
                             const T (&params)[Op::kParams][4],
                             CacheSizeQuery query = tpxGetMaxCacheSizeB) {
-  const ThreshTile<T, kL, Op::kParams> tile(params);
+  const ThreshTile<Op, T, kL> tile(params);
   constexpr int kC = Stride(kL);
   auto run = [&](auto stream) {
     ForEachPixelRun(roi, [&](int pixels, const T* s, T* d) {

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 #include "arith/compare_vec.h"
 #include "core/isa.h"
@@ -13,12 +14,14 @@ namespace tpx {
 // Apply(s, k) is the rule as written, with k the parameters of the sample's channel; Vector()
 // must give the same numbers. Every comparison is strict: a sample equal to its threshold stays.
 // kBiased marks the parameters that Vector() receives moved to the signed range (W::Biased), so
-// that one ordered compare decides; the others come as they are.
+// that one ordered compare decides; the others come as they are. kSelects: the rule is mostly
+// selects, which integer samples run 256 bits wide.
 
 // d = min(s, t), the processor's minimum with the sample first: a NaN sample gives t.
 struct ThreshGT {
   static constexpr int kParams = 1;
   static constexpr unsigned kBiased = 0;
+  static constexpr bool kSelects = false;
   template <class T>
   static T Apply(T s, const T* k) { return s < k[0] ? s : k[0]; }
   template <class W>
@@ -29,6 +32,7 @@ struct ThreshGT {
 struct ThreshLT {
   static constexpr int kParams = 1;
   static constexpr unsigned kBiased = 0;
+  static constexpr bool kSelects = false;
   template <class T>
   static T Apply(T s, const T* k) { return s > k[0] ? s : k[0]; }
   template <class W>
@@ -40,11 +44,12 @@ struct ThreshLT {
 struct ThreshGTVal {
   static constexpr int kParams = 2;  // threshold, value
   static constexpr unsigned kBiased = 1;
+  static constexpr bool kSelects = true;
   template <class T>
   static T Apply(T s, const T* k) { return s > k[0] ? k[1] : s; }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) {
-    return W::Blend(s, k[1], W::Gt(W::Biased(s), k[0]));
+    return W::Blend(s, k[1], W::SampleAbove(s, k[0]));
   }
 };
 
@@ -52,11 +57,12 @@ struct ThreshGTVal {
 struct ThreshLTVal {
   static constexpr int kParams = 2;  // threshold, value
   static constexpr unsigned kBiased = 1;
+  static constexpr bool kSelects = true;
   template <class T>
   static T Apply(T s, const T* k) { return s < k[0] ? k[1] : s; }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) {
-    return W::Blend(s, k[1], W::Gt(k[0], W::Biased(s)));
+    return W::Blend(s, k[1], W::SampleBelow(s, k[0]));
   }
 };
 
@@ -66,6 +72,7 @@ struct ThreshLTVal {
 struct ThreshLTValGTVal {
   static constexpr int kParams = 4;  // thresholdLT, valueLT, thresholdGT, valueGT
   static constexpr unsigned kBiased = 0b101;
+  static constexpr bool kSelects = true;
   template <class T>
   static T Apply(T s, const T* k) {
     T r = s;
@@ -75,22 +82,26 @@ struct ThreshLTValGTVal {
   }
   template <class W>
   static typename W::V Vector(typename W::V s, const typename W::V* k) {
-    const typename W::V sb = W::Biased(s);
-    const typename W::V r = W::Blend(s, k[1], W::Gt(k[0], sb));
-    return W::Blend(r, k[3], W::Gt(sb, k[2]));
+    const typename W::V r = W::Blend(s, k[1], W::SampleBelow(s, k[0]));
+    return W::Blend(r, k[3], W::SampleAbove(s, k[2]));
   }
 };
+
+// The vector of a rule: integer selects 256 bits wide, everything else as dvec::Vec.
+template <class Op, class T>
+using ThreshVec = std::conditional_t<Op::kSelects && !std::is_same_v<T, Tpx32f>, dvec::Wide<T>, dvec::Vec<T>>;
 
 // ---- Parameters laid out for a row ----------------------------------------------------------
 // The parameters of every channel, as scalars and as a tiled sample pattern: vec[j][x] is
 // parameter j of channel x % C, long enough for one pattern period of vectors (three for C3,
 // one otherwise) from any phase 0..3. alpha[x] has all bits set on the fourth sample of an AC4
 // pixel. Built once per call.
-template <class T, Layout kL, int kParams>
+template <class Op, class T, Layout kL>
 struct ThreshTile {
+  static constexpr int kParams = Op::kParams;
   static constexpr int kC = Stride(kL);
   static constexpr int kPeriodVecs = kC == 3 ? 3 : 1;
-  static constexpr int kLen = kPeriodVecs * dvec::Vec<T>::kLanes + 4;
+  static constexpr int kLen = kPeriodVecs * ThreshVec<Op, T>::kLanes + 4;
 
   T kc[4][kParams];  // kc[channel][parameter]
   alignas(32) T vec[kParams][kLen];
@@ -111,7 +122,7 @@ struct ThreshTile {
 // Samples [from, to) of a row, one at a time; the row starts on a pixel.
 template <class Op, class T, Layout kL>
 inline void ThresholdSamples(const T* s, T* d, int from, int to,
-                             const ThreshTile<T, kL, Op::kParams>& tile) {
+                             const ThreshTile<Op, T, kL>& tile) {
   constexpr int kC = Stride(kL);
   int c = from % kC;
   for (int i = from; i < to; ++i) {
@@ -121,12 +132,12 @@ inline void ThresholdSamples(const T* s, T* d, int from, int to,
 }
 
 // Whole vectors from sample i on; returns the first sample left. kNT: non-temporal stores
-// (d + i must be aligned to V).
+// (d + i must be aligned to V). The source is prefetched a few lines ahead, once a line.
 template <class Op, class T, Layout kL, bool kNT>
-inline int ThresholdVectors(const T* s, T* d, int i, int n, const ThreshTile<T, kL, Op::kParams>& tile) {
-  using W = dvec::Vec<T>;
+inline int ThresholdVectors(const T* s, T* d, int i, int n, const ThreshTile<Op, T, kL>& tile) {
+  using W = ThreshVec<Op, T>;
   using V = typename W::V;
-  using Tile = ThreshTile<T, kL, Op::kParams>;
+  using Tile = ThreshTile<Op, T, kL>;
   constexpr int kLanes = W::kLanes;
   constexpr int kP = Tile::kPeriodVecs;
   constexpr int kUnroll = kP == 3 ? 3 : 4;
@@ -149,7 +160,10 @@ inline int ThresholdVectors(const T* s, T* d, int i, int n, const ThreshTile<T, 
   };
   for (; i + kUnroll * kLanes <= n; i += kUnroll * kLanes) {
 #pragma GCC unroll 4
-    for (int u = 0; u < kUnroll; ++u) step(i + u * kLanes, k[u % kP], alpha[u % kP]);
+    for (int u = 0; u < kUnroll; ++u) {
+      if ((u * sizeof(V)) % 64 == 0) dvec::PrefetchAhead(s + i + u * kLanes);
+      step(i + u * kLanes, k[u % kP], alpha[u % kP]);
+    }
   }
 #pragma GCC unroll 4
   for (int g = 0; g < kUnroll - 1; ++g) {
@@ -166,10 +180,10 @@ inline int ThresholdVectors(const T* s, T* d, int i, int n, const ThreshTile<T, 
 // V boundary of d; tail: scalar, same Op. kStream writes the vector body with non-temporal
 // stores where the head reached the boundary; the caller fences.
 template <class Op, class T, Layout kL, Isa kI, bool kStream = false>
-inline void ThresholdRow(const T* s, T* d, int n, const ThreshTile<T, kL, Op::kParams>& tile) {
+inline void ThresholdRow(const T* s, T* d, int n, const ThreshTile<Op, T, kL>& tile) {
   int i = 0;
   if constexpr (kI == Isa::kAvx) {
-    constexpr int kBytes = static_cast<int>(sizeof(typename dvec::Vec<T>::V));
+    constexpr int kBytes = static_cast<int>(sizeof(typename ThreshVec<Op, T>::V));
     const std::uintptr_t addr = reinterpret_cast<std::uintptr_t>(d);
     int head = 0;
     if (addr % sizeof(T) == 0) head = static_cast<int>(((kBytes - addr % kBytes) % kBytes) / sizeof(T));

@@ -163,7 +163,7 @@ void TwinsAgree(Rng& rng) {
   if constexpr (Op::kParams == 4)
     for (int c = 0; c < 4; ++c)
       if (params[2][c] < params[0][c]) std::swap(params[2][c], params[0][c]);
-  const tpx::ThreshTile<T, L, Op::kParams> tile(params);
+  const tpx::ThreshTile<Op, T, L> tile(params);
   for (int px = 0; px <= 3 * Lanes<T>() + 3; ++px)
     for (int mis = 0; mis < 4; ++mis) {
       GuardedImage<T> s(px, 1, C, 0, mis), ref(px, 1, C, 0, 3 - mis), got(px, 1, C);
