@@ -31,7 +31,7 @@ inline __m128i AlphaKeepMask() {
 template <Isa kI, class T, bool kFromRow>
 inline void AlphaKeepRow(const T* src, T* d, int pixels) {
   int i = 0;  // pixel index
-  if constexpr (kI == Isa::kAvx) {
+  if constexpr (kI == Isa::kAvx && sizeof(T) <= 4) {  // wider samples: a pixel outgrows a vector
     constexpr int kPix = 16 / (4 * static_cast<int>(sizeof(T)));  // pixels a vector holds
     const __m128i mask = AlphaKeepMask<T>();
     __m128i pat = _mm_setzero_si128();
