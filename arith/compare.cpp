@@ -21,9 +21,7 @@ namespace {
 // mask from 0x100001 bytes of rows on (the steps of the call added, times the height).
 inline constexpr long long kCompare8uStreamBytes = 0x100001;
 
-template <class T>
-bool StreamMask(std::initializer_list<const void*> ptrs, std::initializer_list<int> steps, int height) {
-  if constexpr (!std::is_same_v<T, Tpx8u>) return false;
+bool StreamMask8u(std::initializer_list<const void*> ptrs, std::initializer_list<int> steps, int height) {
   long long rows = 0;
   for (const void* p : ptrs)
     if (reinterpret_cast<std::uintptr_t>(p) % 16 != 0) return false;
@@ -34,21 +32,25 @@ bool StreamMask(std::initializer_list<const void*> ptrs, std::initializer_list<i
   return rows * height >= kCompare8uStreamBytes;
 }
 
-// Runs run(std::bool_constant<stream>) and fences after streaming stores.
-template <class Run>
-void WithStreaming(bool stream, Run&& run) {
-  if (stream) {
-    run(std::true_type{});
-    StreamFence();
-  } else {
-    run(std::false_type{});
+// Runs run(std::bool_constant<stream>) and fences after streaming stores; other types than 8u
+// never stream.
+template <class T, class Run>
+void WithStreaming(std::initializer_list<const void*> ptrs, std::initializer_list<int> steps,
+                   int height, Run&& run) {
+  if constexpr (std::is_same_v<T, Tpx8u>) {
+    if (StreamMask8u(ptrs, steps, height)) {
+      run(std::true_type{});
+      StreamFence();
+      return;
+    }
   }
+  run(std::false_type{});
 }
 
 template <class T, Layout kL, class Rel>
 void CompareImages(const T* a, int aStep, const T* b, int bStep, Tpx8u* d, int dStep, TpxSize roi,
                    const Rel& rel) {
-  WithStreaming(StreamMask<T>({a, b, d}, {aStep, bStep, dStep}, roi.height), [&](auto stream) {
+  WithStreaming<T>({a, b, d}, {aStep, bStep, dStep}, roi.height, [&](auto stream) {
     ForEachPixelRun(roi, [&](int n, const T* ra, const T* rb, Tpx8u* rd) {
       CompareRow<T, kL, kIsa, decltype(stream)::value>(RowOperand<T, kL>{ra}, RowOperand<T, kL>{rb}, rd, n, rel);
     }, MakePixelPlane(a, aStep, Stride(kL)), MakePixelPlane(b, bStep, Stride(kL)), MakePixelPlane(d, dStep, 1));
@@ -59,7 +61,7 @@ void CompareImages(const T* a, int aStep, const T* b, int bStep, Tpx8u* d, int d
 template <class T, Layout kL, bool kValueFirst, class Rel>
 void CompareWithValue(const T* a, int aStep, const ConstOperand<T, kL>& v, Tpx8u* d, int dStep,
                       TpxSize roi, const Rel& rel) {
-  WithStreaming(StreamMask<T>({a, d}, {aStep, dStep}, roi.height), [&](auto stream) {
+  WithStreaming<T>({a, d}, {aStep, dStep}, roi.height, [&](auto stream) {
     constexpr bool kNT = decltype(stream)::value;
     ForEachPixelRun(roi, [&](int n, const T* ra, Tpx8u* rd) {
       const RowOperand<T, kL> row{ra};
