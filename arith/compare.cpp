@@ -4,33 +4,73 @@
 // a value above 4 runs nothing and succeeds, or eps, where a value below 0 is refused.
 #include "arith/compare.h"
 
+#include <cstdint>
+#include <initializer_list>
+#include <type_traits>
+
 #include "arith/channel_arg.h"
 #include "arith/pixel_runs.h"
 #include "core/checks.h"
 #include "core/export.h"
+#include "core/stream.h"
 
 namespace tpx {
 namespace {
 
+// 8u images that are all 16-byte aligned, pointers and steps, take non-temporal stores for the
+// mask from 0x100001 bytes of rows on (the steps of the call added, times the height).
+inline constexpr long long kCompare8uStreamBytes = 0x100001;
+
+bool StreamMask8u(std::initializer_list<const void*> ptrs, std::initializer_list<int> steps, int height) {
+  long long rows = 0;
+  for (const void* p : ptrs)
+    if (reinterpret_cast<std::uintptr_t>(p) % 16 != 0) return false;
+  for (int s : steps) {
+    if (s % 16 != 0) return false;
+    rows += s;
+  }
+  return rows * height >= kCompare8uStreamBytes;
+}
+
+// Runs run(std::bool_constant<stream>) and fences after streaming stores; other types than 8u
+// never stream.
+template <class T, class Run>
+void WithStreaming(std::initializer_list<const void*> ptrs, std::initializer_list<int> steps,
+                   int height, Run&& run) {
+  if constexpr (std::is_same_v<T, Tpx8u>) {
+    if (StreamMask8u(ptrs, steps, height)) {
+      run(std::true_type{});
+      StreamFence();
+      return;
+    }
+  }
+  run(std::false_type{});
+}
+
 template <class T, Layout kL, class Rel>
 void CompareImages(const T* a, int aStep, const T* b, int bStep, Tpx8u* d, int dStep, TpxSize roi,
                    const Rel& rel) {
-  ForEachPixelRun(roi, [&](int n, const T* ra, const T* rb, Tpx8u* rd) {
-    CompareRow<T, kL, kIsa>(RowOperand<T, kL>{ra}, RowOperand<T, kL>{rb}, rd, n, rel);
-  }, MakePixelPlane(a, aStep, Stride(kL)), MakePixelPlane(b, bStep, Stride(kL)), MakePixelPlane(d, dStep, 1));
+  WithStreaming<T>({a, b, d}, {aStep, bStep, dStep}, roi.height, [&](auto stream) {
+    ForEachPixelRun(roi, [&](int n, const T* ra, const T* rb, Tpx8u* rd) {
+      CompareRow<T, kL, kIsa, decltype(stream)::value>(RowOperand<T, kL>{ra}, RowOperand<T, kL>{rb}, rd, n, rel);
+    }, MakePixelPlane(a, aStep, Stride(kL)), MakePixelPlane(b, bStep, Stride(kL)), MakePixelPlane(d, dStep, 1));
+  });
 }
 
 // kValueFirst: the constant is the first operand of the relation.
 template <class T, Layout kL, bool kValueFirst, class Rel>
 void CompareWithValue(const T* a, int aStep, const ConstOperand<T, kL>& v, Tpx8u* d, int dStep,
                       TpxSize roi, const Rel& rel) {
-  ForEachPixelRun(roi, [&](int n, const T* ra, Tpx8u* rd) {
-    const RowOperand<T, kL> row{ra};
-    if constexpr (kValueFirst)
-      CompareRow<T, kL, kIsa>(v, row, rd, n, rel);
-    else
-      CompareRow<T, kL, kIsa>(row, v, rd, n, rel);
-  }, MakePixelPlane(a, aStep, Stride(kL)), MakePixelPlane(d, dStep, 1));
+  WithStreaming<T>({a, d}, {aStep, dStep}, roi.height, [&](auto stream) {
+    constexpr bool kNT = decltype(stream)::value;
+    ForEachPixelRun(roi, [&](int n, const T* ra, Tpx8u* rd) {
+      const RowOperand<T, kL> row{ra};
+      if constexpr (kValueFirst)
+        CompareRow<T, kL, kIsa, kNT>(v, row, rd, n, rel);
+      else
+        CompareRow<T, kL, kIsa, kNT>(row, v, rd, n, rel);
+    }, MakePixelPlane(a, aStep, Stride(kL)), MakePixelPlane(d, dStep, 1));
+  });
 }
 
 // Three kernels: cmpOp 0, 1, 2 run less, less-or-equal and equal on (a, b); 3 and 4 run

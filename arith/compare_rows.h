@@ -67,6 +67,16 @@ struct RowOperand {
     return dvec::Vec<T>::Load(p + x * Stride(kL) + k * dvec::Vec<T>::kLanes);
   }
   RowOperand Vectors() const { return *this; }
+  // Prefetch hints for the lines of the group at pixel x (rows are walked forward).
+  void Prefetch(int x) const {
+    constexpr int kGroupBytes = 16 * Stride(kL) * static_cast<int>(sizeof(T));
+    const T* g = p + x * Stride(kL);
+    if constexpr (kGroupBytes < 64) {
+      if ((x * Stride(kL) * static_cast<int>(sizeof(T))) % 64 == 0) dvec::PrefetchAhead(g);
+    } else {
+      for (int b = 0; b < kGroupBytes; b += 64) dvec::PrefetchAhead(reinterpret_cast<const char*>(g) + b);
+    }
+  }
 };
 
 // The sample vectors of a 16-pixel group, held in registers by the vector loop.
@@ -75,6 +85,7 @@ struct VectorGroup {
   static constexpr int kVecs = 16 * Stride(kL) / dvec::Vec<T>::kLanes;
   typename dvec::Vec<T>::V v[kVecs];
   typename dvec::Vec<T>::V Load(int, int k) const { return v[k]; }
+  void Prefetch(int) const {}
 };
 
 // A constant pixel (one entry a channel), laid out once for a whole group of 16 pixels.
@@ -142,7 +153,8 @@ inline void ComparePixels(const A& a, const B& b, Tpx8u* d, int from, int to, co
 }
 
 // Groups of 16 pixels from pixel x on (d + x aligned to 16); returns the first pixel left.
-template <class T, Layout kL, class Rel, class A, class B>
+// kNT: non-temporal stores; the caller fences.
+template <class T, Layout kL, bool kNT, class Rel, class A, class B>
 inline int CompareVectors(const A& a, const B& b, Tpx8u* d, int x, int pixels, const Rel& rel) {
   using W = dvec::Vec<T>;
   constexpr int kVecs = VectorGroup<T, kL>::kVecs;  // sample vectors of 16 pixels
@@ -151,26 +163,33 @@ inline int CompareVectors(const A& a, const B& b, Tpx8u* d, int x, int pixels, c
   const auto bv = b.Vectors();
   const Rel r = rel;
   for (; x + 16 <= pixels; x += 16) {
+    av.Prefetch(x);
+    bv.Prefetch(x);
     typename W::V m[kVecs];
     dvec::Unroll<kVecs>([&](auto k) __attribute__((always_inline)) { m[k] = r.Mask(av.Load(x, k), bv.Load(x, k)); });
     __m128i bytes[Stride(kL)];
     dvec::Unroll<Stride(kL)>([&](auto j) __attribute__((always_inline)) { bytes[j] = W::ToBytes(m + j * kPerByteVec); });
-    _mm_store_si128(reinterpret_cast<__m128i*>(d + x), PixelsHold<kL, Rel::kInverted>(bytes));
+    const __m128i out = PixelsHold<kL, Rel::kInverted>(bytes);
+    if constexpr (kNT)
+      _mm_stream_si128(reinterpret_cast<__m128i*>(d + x), out);
+    else
+      _mm_store_si128(reinterpret_cast<__m128i*>(d + x), out);
   }
   return x;
 }
 
 // d[x] = 255 where rel holds on every considered channel of pixel x (C3, AC4: three; C4: four),
 // else 0, for x < pixels. V = 16 pixels a step. Head: pixels up to a 16-byte boundary of d;
-// tail: scalar, same rule.
-template <class T, Layout kL, Isa kI, class Rel, class A, class B>
+// tail: scalar, same rule. kStream: the vector body stores with non-temporal stores (the
+// caller fences).
+template <class T, Layout kL, Isa kI, bool kStream = false, class Rel, class A, class B>
 inline void CompareRow(const A& a, const B& b, Tpx8u* d, int pixels, const Rel& rel) {
   int x = 0;
   if constexpr (kI == Isa::kAvx) {
     int head = static_cast<int>((0u - reinterpret_cast<std::uintptr_t>(d)) & 15u);
     if (head > pixels) head = pixels;
     ComparePixels<kL>(a, b, d, 0, head, rel);
-    x = CompareVectors<T, kL>(a, b, d, head, pixels, rel);
+    x = CompareVectors<T, kL, kStream>(a, b, d, head, pixels, rel);
   }
   ComparePixels<kL>(a, b, d, x, pixels, rel);
 }

@@ -171,10 +171,11 @@ void TwinsAgree(Rng& rng, const Rel& rel) {
       tpxtest::FillFrom(b, rng, Pivots<T>());
       const tpx::RowOperand<T, L> ra{a.Data()}, rb{b.Data()};
       auto agree = [&](const auto& x, const auto& y) {
-        GuardedImage<Tpx8u> ref(px, 1, 1, 0, mis), got(px, 1, 1, 0, (mis + 5) % 16);
+        GuardedImage<Tpx8u> ref(px, 1, 1, 0, mis), got(px, 1, 1, 0, (mis + 5) % 16), nt(px, 1, 1, 0, mis);
         tpx::CompareRow<T, L, Isa::kScalar>(x, y, ref.Data(), px, rel);
         tpx::CompareRow<T, L, Isa::kAvx>(x, y, got.Data(), px, rel);
-        return SameSamples(ref, got) && got.GuardsIntact();
+        tpx::CompareRow<T, L, Isa::kAvx, true>(x, y, nt.Data(), px, rel);  // streaming stores
+        return SameSamples(ref, got) && SameSamples(ref, nt) && got.GuardsIntact() && nt.GuardsIntact();
       };
       ASSERT_TRUE(agree(ra, rb) && agree(ra, k) && agree(k, ra)) << px << " " << mis;
     }
@@ -192,6 +193,26 @@ TEST(Compare, AvxRowEqualsScalarRow) {
         for (float eps : {0.0f, 0.5f, 2.0f}) TwinsAgree<T, lay.value>(rng, tpx::RelEqualEps(eps));
     });
   });
+}
+
+// Large 8u images aligned to 16 bytes in every pointer and step stream the mask; the masks are
+// those of the rule all the same.
+TEST(Compare, LargeAligned8uImagesGiveTheSameMasks) {
+  Rng rng(0xA1);
+  for (Layout l : {Layout::C1, Layout::C3, Layout::AC4}) {
+    const Case<Tpx8u>& k = Cases<Tpx8u>()[l == Layout::C1 ? 0 : l == Layout::C3 ? 1 : 3];
+    const int ch = tpx::Stride(l);
+    GuardedImage<Tpx8u> a(1024, 360, ch), b(1024, 360, ch), d(1024, 360), want(1024, 360);
+    tpxtest::FillFrom(a, rng, Pivots<Tpx8u>());
+    tpxtest::FillFrom(b, rng, Pivots<Tpx8u>());
+    const std::vector<Tpx8u> value = {3, 100, 101};
+    ModelMask(want, l, [&](int x, int y, int c) { return a.At(x, y, c) <= b.At(x, y, c); });
+    ASSERT_EQ(k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), tpxCmpLessEq), tpxOk);
+    EXPECT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << k.name;
+    ModelMask(want, l, [&](int x, int y, int c) { return a.At(x, y, c) > value[c]; });
+    ASSERT_EQ(k.cmpC(a.Data(), a.Step(), value.data(), d.Data(), d.Step(), a.Size(), tpxCmpGreater), tpxOk);
+    EXPECT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << k.name;
+  }
 }
 
 // Pointers, steps, size; then cmpOp (never refused) or eps.
