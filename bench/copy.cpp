@@ -50,6 +50,26 @@ void Add(const std::string& name, int type, long long bytesPerPixel, std::functi
   tpxbench::Register(c);
 }
 
+// Interleaved to planar and back beside cv::split and cv::merge, on planes that hold data (not
+// fresh pages).
+template <class T>
+void AddPlanar(const std::string& type, int cvType, TpxStatus (*toPlanar)(const T*, int, T* const*, int, TpxSize),
+               TpxStatus (*fromPlanar)(const T* const*, int, T*, int, TpxSize)) {
+  auto planes = [](Images& s) { cv::split(s.src, s.planes); };
+  Add("Copy/" + type + "_C3P3R", cvType, 3 * sizeof(T),
+      [toPlanar](Images& s) {
+        T* d[3] = {P<T>(s.planes[0]), P<T>(s.planes[1]), P<T>(s.planes[2])};
+        toPlanar(P<T>(s.src), Step(s.src), d, Step(s.planes[0]), s.roi);
+      },
+      planes, false, planes);
+  Add("Copy/" + type + "_P3C3R", cvType, 3 * sizeof(T),
+      [fromPlanar](Images& s) {
+        const T* p[3] = {P<T>(s.planes[0]), P<T>(s.planes[1]), P<T>(s.planes[2])};
+        fromPlanar(p, Step(s.planes[0]), P<T>(s.dst), Step(s.dst), s.roi);
+      },
+      [](Images& s) { cv::merge(s.planes, s.dst); }, false, planes);
+}
+
 const int kRegistered = [] {
   Add("Copy/8u_C1R", CV_8UC1, 1,
       [](Images& s) { tpxiCopy_8u_C1R(P<Tpx8u>(s.src), Step(s.src), P<Tpx8u>(s.dst), Step(s.dst), s.roi); },
@@ -67,19 +87,8 @@ const int kRegistered = [] {
       },
       [](Images& s) { s.dst.setTo(cv::Scalar(1, 2, 3, 4)); });
 
-  auto planes = [](Images& s) { cv::split(s.src, s.planes); };  // planes with data, not fresh pages
-  Add("Copy/32f_C3P3R", CV_32FC3, 12,
-      [](Images& s) {
-        Tpx32f* d[3] = {P<Tpx32f>(s.planes[0]), P<Tpx32f>(s.planes[1]), P<Tpx32f>(s.planes[2])};
-        tpxiCopy_32f_C3P3R(P<Tpx32f>(s.src), Step(s.src), d, Step(s.planes[0]), s.roi);
-      },
-      [](Images& s) { cv::split(s.src, s.planes); }, false, planes);
-  Add("Copy/32f_P3C3R", CV_32FC3, 12,
-      [](Images& s) {
-        const Tpx32f* p[3] = {P<Tpx32f>(s.planes[0]), P<Tpx32f>(s.planes[1]), P<Tpx32f>(s.planes[2])};
-        tpxiCopy_32f_P3C3R(p, Step(s.planes[0]), P<Tpx32f>(s.dst), Step(s.dst), s.roi);
-      },
-      [](Images& s) { cv::merge(s.planes, s.dst); }, false, planes);
+  AddPlanar<Tpx32f>("32f", CV_32FC3, tpxiCopy_32f_C3P3R, tpxiCopy_32f_P3C3R);
+  AddPlanar<Tpx8u>("8u", CV_8UC3, tpxiCopy_8u_C3P3R, tpxiCopy_8u_P3C3R);
 
   Add("Transpose/8u_C1R", CV_8UC1, 1,
       [](Images& s) { tpxiTranspose_8u_C1R(P<Tpx8u>(s.src), Step(s.src), P<Tpx8u>(s.dst), Step(s.dst), s.roi); },

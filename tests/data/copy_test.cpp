@@ -421,9 +421,11 @@ TEST(CopyKernels, MaskedAvxEqualsScalar) {
   MaskTwin<Tpx32s, tpx::Layout::AC4>(rng);
 }
 
+// Rows up to three 64-byte lines of a plane and three more vectors: the prefetching groups of
+// lines, the single steps after them and the scalar tail.
 template <class T, int kC>
 void PlanarTwin(Rng& rng) {
-  for (int n = 0; n <= 3 * 16 + 3; ++n) {
+  for (int n = 0; n <= 3 * 64 / static_cast<int>(sizeof(T)) + 3 * 16 + 3; ++n) {
     std::vector<T> s(n * kC + 1), pa(kC * (n + 1)), pb(kC * (n + 1)), ia(n * kC + 1), ib(n * kC + 1);
     for (auto& v : s) v = rng.Sample<T>();
     T *a[kC], *b[kC];
