@@ -1,6 +1,6 @@
 // Every row operation of Convert and Scale: the AVX row (plain and streaming) and the AVX AC4
-// row against their scalar twins, bit for bit, for every length up to 3 vectors + 3 and a few
-// long ones, on misaligned rows that end exactly where the allocation ends.
+// row against their scalar twins, bit for bit, for every length up to 3 vectors + 3 and longer
+// ones through the grouped loop, on misaligned rows that end exactly where the allocation ends.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -40,7 +40,9 @@ void Twin(const std::string& name, const Op& op, const Values<typename Op::Src>&
   using D = typename Op::Dst;
   std::vector<int> lengths;
   for (int n = 0; n <= 3 * 16 + 3; ++n) lengths.push_back(n);
-  for (int n : {97, 260, 1001}) lengths.push_back(n);
+  // The vector loop takes blocks in groups of up to four (64 samples): a group, blocks after it
+  // and a tail, three groups and a tail, and long rows.
+  for (int n : {64, 97, 195, 260, 1001}) lengths.push_back(n);
   int k = 0;
   for (int n : lengths)
     for (int mis : {0, 1, 3}) {
