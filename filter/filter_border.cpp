@@ -320,9 +320,9 @@ TpxStatus FilterBorderRun(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxS
   };
   if constexpr (std::is_same_v<T, Tpx32f>) {
     const Window win = WindowOf(s);
-    const KernelView<float> k = ReversedView(reinterpret_cast<const float*>(KernelArea(s)), kw * kh);
+    const float* rev = reinterpret_cast<const float*>(KernelArea(s));
     engine([&](const T* sp, std::ptrdiff_t ss, T* dp, std::ptrdiff_t ds, int w, int h) {
-      Float32Rows<kCh, kIsa>(sp, ss, dp, ds, w, h, win, k);
+      Float32Rows<kCh, kIsa>(sp, ss, dp, ds, w, h, win, rev);
     });
   } else if constexpr (std::is_same_v<T, Tpx64f>) {
     const Window win = WindowOf(s);
