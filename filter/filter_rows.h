@@ -904,9 +904,11 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
 // Sums of kR destination rows (1 or 2) x kV vectors of 8 samples. row(r) points at source row
 // r of the pass under the first tap of the block: the first destination row reads rows
 // 0 .. kh - 1, the second 1 .. kh. `last` points at the last element of the reversed kernel,
-// so tap (i, j) is last[-(i * kw + j)].
-template <int kCh, int kV, int kR, class Row>
-TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kw, int kh, __m256 (&a)[kR][kV]) {
+// so tap (i, j) is last[-(i * kw + j)]. kKw is the kernel width when known at compile time
+// (the taps of a row then unroll fully, with no loop counter or pointer steps between them).
+template <int kCh, int kV, int kR, int kKw, class Row>
+TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kwRun, int kh, __m256 (&a)[kR][kV]) {
+  const int kw = kKw ? kKw : kwRun;
   // Source row r against kernel row r (first sum, kU0) and r - 1 (second sum, kU1); kS0 and
   // kS1: the row's first tap starts that sum.
   auto pass = [&](int r, auto u0, auto u1, auto s0, auto s1) __attribute__((always_inline)) {
@@ -933,8 +935,13 @@ TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kw, int kh,
     };
     using No = std::false_type;
     tap(0, s0, s1);
-    #pragma GCC unroll 2
-    for (int j = 1; j < kw; ++j) tap(j, No{}, No{});
+    if constexpr (kKw > 0) {
+      #pragma GCC unroll 16
+      for (int j = 1; j < kKw; ++j) tap(j, No{}, No{});
+    } else {
+      #pragma GCC unroll 2
+      for (int j = 1; j < kw; ++j) tap(j, No{}, No{});
+    }
   };
   using Yes = std::true_type;
   using No = std::false_type;
@@ -963,41 +970,48 @@ void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrd
   const int n = w * kCh, taps = win.kw * win.kh;
   if (kI == Isa::kAvx && n >= 8) {
     const float* last = rev + (taps - 1);
-    for (int y = 0; y < h; y += 2) {
-      const float* top = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
-      float* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep);
-      float* d1 = Advance(d0, dstStep);
-      const bool more = y + 2 < h;
-      auto rows = [&](auto rc) {
-        constexpr int kR = decltype(rc)::value;
-        auto block = [&](auto v, int o) {
-          constexpr int kV = decltype(v)::value;
-          auto row = [&](int r) { return Advance(top, static_cast<std::ptrdiff_t>(r) * srcStep) + o; };
-          if constexpr (kV == 4) {
-            auto ahead = [](const float* p) {
-              _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0);
-              _mm_prefetch(reinterpret_cast<const char*>(p + 16), _MM_HINT_T0);
-            };
-            ahead(d0 + o + 64);
-            if constexpr (kR == 2) ahead(d1 + o + 64);
-            if (more) {
-              ahead(row(win.kh + 1) + 32);
-              ahead(row(win.kh + 2) + 32);
+    // Full blocks of two rows know the usual widths 3 and 5 at compile time.
+    auto rowsOf = [&](auto kwc) {
+      for (int y = 0; y < h; y += 2) {
+        const float* top = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
+        float* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep);
+        float* d1 = Advance(d0, dstStep);
+        const bool more = y + 2 < h;
+        auto rows = [&](auto rc) {
+          constexpr int kR = decltype(rc)::value;
+          auto block = [&](auto v, int o) {
+            constexpr int kV = decltype(v)::value;
+            auto row = [&](int r) { return Advance(top, static_cast<std::ptrdiff_t>(r) * srcStep) + o; };
+            if constexpr (kV == 4) {
+              auto ahead = [](const float* p) {
+                _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0);
+                _mm_prefetch(reinterpret_cast<const char*>(p + 16), _MM_HINT_T0);
+              };
+              ahead(d0 + o + 64);
+              if constexpr (kR == 2) ahead(d1 + o + 64);
+              if (more) {
+                ahead(row(win.kh + 1) + 32);
+                ahead(row(win.kh + 2) + 32);
+              }
             }
-          }
-          __m256 a[kR][kV];
-          Float32Taps<kCh, kV, kR>(row, last, win.kw, win.kh, a);
-          #pragma GCC unroll 8
-          for (int q = 0; q < kV; ++q) {
-            _mm256_storeu_ps(d0 + o + 8 * q, a[0][q]);
-            if constexpr (kR == 2) _mm256_storeu_ps(d1 + o + 8 * q, a[1][q]);
-          }
+            __m256 a[kR][kV];
+            constexpr int kKw = kV == 4 && kR == 2 ? decltype(kwc)::value : 0;
+            Float32Taps<kCh, kV, kR, kKw>(row, last, win.kw, win.kh, a);
+            #pragma GCC unroll 8
+            for (int q = 0; q < kV; ++q) {
+              _mm256_storeu_ps(d0 + o + 8 * q, a[0][q]);
+              if constexpr (kR == 2) _mm256_storeu_ps(d1 + o + 8 * q, a[1][q]);
+            }
+          };
+          ForEachVectorBlock<4, 8>(n, 0, block);
         };
-        ForEachVectorBlock<4, 8>(n, 0, block);
-      };
-      if (y + 1 < h) rows(std::integral_constant<int, 2>{});
-      else rows(std::integral_constant<int, 1>{});
-    }
+        if (y + 1 < h) rows(std::integral_constant<int, 2>{});
+        else rows(std::integral_constant<int, 1>{});
+      }
+    };
+    if (win.kw == 3) rowsOf(std::integral_constant<int, 3>{});
+    else if (win.kw == 5) rowsOf(std::integral_constant<int, 5>{});
+    else rowsOf(std::integral_constant<int, 0>{});
     return;
   }
   const KernelView<float> k = ReversedView(rev, taps);
