@@ -81,7 +81,8 @@ inline EngineGeometry MakeGeometry(int kw, int kh, TpxSize roi, int borderType) 
 // Runs `run(src, srcStep, dst, dstStep, w, h)` over the region; src points at the source
 // pixel under the destination's first pixel, and the routine reads `reach` around it.
 // `scratch` is the border part of the work buffer, already aligned; it is not touched when
-// every side lies in memory. Order: top strip, bottom strip, left strip, right strip, centre.
+// every side lies in memory. Order: top strip, bottom strip, then the left and right strips
+// band by band (one band unless they are widened), centre.
 // `sideMin`: a routine whose vector rows want at least that many pixels per row gets side
 // strips that wide where the region allows, in bands of rows that fit the scratch (a side
 // strip as narrow as the kernel's reach would otherwise take the routine's narrow form on
