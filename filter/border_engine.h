@@ -81,11 +81,16 @@ inline EngineGeometry MakeGeometry(int kw, int kh, TpxSize roi, int borderType) 
 // Runs `run(src, srcStep, dst, dstStep, w, h)` over the region; src points at the source
 // pixel under the destination's first pixel, and the routine reads `reach` around it.
 // `scratch` is the border part of the work buffer, already aligned; it is not touched when
-// every side lies in memory. Order: top strip, bottom strip, left strip, right strip, centre.
+// every side lies in memory. Order: top strip, bottom strip, then the left and right strips
+// band by band (one band unless they are widened), centre.
+// `sideMin`: a routine whose vector rows want at least that many pixels per row gets side
+// strips that wide where the region allows, in bands of rows that fit the scratch (a side
+// strip as narrow as the kernel's reach would otherwise take the routine's narrow form on
+// every row of the image).
 template <class T, int kCh, class Run>
 void RunBorderEngine(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstStep,
                      TpxSize roi, int kw, int kh, int borderType, const T* borderValue,
-                     T* scratch, Run&& run) {
+                     T* scratch, Run&& run, int sideMin = 0) {
   const EngineGeometry g = MakeGeometry(kw, kh, roi, borderType);
   if (g.flags == kInMemAll) {
     run(src, srcStep, dst, dstStep, roi.width, roi.height);
@@ -124,14 +129,27 @@ void RunBorderEngine(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_
     throughScratch(0, y1 - g.stripBottom, W, g.stripBottom);
     y1 -= g.stripBottom;
   }
-  if (!(g.flags & kInMemLeft)) {
-    throughScratch(0, y0, r.left, y1 - y0);
-    x0 += r.left;
+  int left = (g.flags & kInMemLeft) ? 0 : r.left, right = (g.flags & kInMemRight) ? 0 : g.stripRight;
+  int band = y1 - y0;
+  if (sideMin > 0 && y1 > y0 && (left || right)) {
+    const int wl = left ? std::max(left, sideMin) : 0, wr = right ? std::max(right, sideMin) : 0;
+    // Pixels the scratch holds: the size formula's count, as the caller allocated by it.
+    const long long cap = (static_cast<long long>(BorderBytes(kw, kh, W, H, sizeof(T), kCh)) - 32) /
+                          static_cast<long long>(sizeof(T) * kCh);
+    const long long rowsFit = cap / (std::max(wl, wr) + kw - 1) - (kh - 1);
+    if (wl + wr <= W && rowsFit >= kh) {
+      left = wl;
+      right = wr;
+      band = static_cast<int>(std::min<long long>(band, rowsFit));
+    }
   }
-  if (!(g.flags & kInMemRight)) {
-    throughScratch(x1 - g.stripRight, y0, g.stripRight, y1 - y0);
-    x1 -= g.stripRight;
+  for (int yb = y0; yb < y1; yb += band) {
+    const int hb = std::min(band, y1 - yb);
+    if (left) throughScratch(0, yb, left, hb);
+    if (right) throughScratch(W - right, yb, right, hb);
   }
+  x0 += left;
+  x1 -= right;
   if (x1 > x0 && y1 > y0)
     run(PixelAt(src, srcStep, x0, y0, kCh), srcStep, PixelAt(dst, dstStep, x0, y0, kCh), dstStep,
         x1 - x0, y1 - y0);

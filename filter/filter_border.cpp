@@ -315,21 +315,24 @@ TpxStatus FilterBorderRun(const T* pSrc, int srcStep, T* pDst, int dstStep, TpxS
   const int kw = s->kernelWidth, kh = s->kernelHeight;
   const WorkSplit ws = SplitBuffer(pBuffer, BorderBytes(kw, kh, roi.width, roi.height, sizeof(T), kCh));
   T* scratch = reinterpret_cast<T*>(ws.scratch);
-  auto engine = [&](auto&& rows) {
-    RunBorderEngine<T, kCh>(pSrc, srcStep, pDst, dstStep, roi, kw, kh, borderType, borderValue, scratch, rows);
+  auto engine = [&](auto&& rows, int sideMin = 0) {
+    RunBorderEngine<T, kCh>(pSrc, srcStep, pDst, dstStep, roi, kw, kh, borderType, borderValue, scratch, rows,
+                            sideMin);
   };
+  // The 32f and 64f rows compute the same sums on any width, so their side strips are made as
+  // wide as one vector: the narrow form would otherwise run down both sides of the image.
   if constexpr (std::is_same_v<T, Tpx32f>) {
     const Window win = WindowOf(s);
-    const KernelView<float> k = ReversedView(reinterpret_cast<const float*>(KernelArea(s)), kw * kh);
+    const float* rev = reinterpret_cast<const float*>(KernelArea(s));
     engine([&](const T* sp, std::ptrdiff_t ss, T* dp, std::ptrdiff_t ds, int w, int h) {
-      Float32Rows<kCh, kIsa>(sp, ss, dp, ds, w, h, win, k);
-    });
+      Float32Rows<kCh, kIsa>(sp, ss, dp, ds, w, h, win, rev);
+    }, (8 + kCh - 1) / kCh);
   } else if constexpr (std::is_same_v<T, Tpx64f>) {
     const Window win = WindowOf(s);
     const KernelView<double> k = ReversedView(reinterpret_cast<const double*>(KernelArea(s)), kw * kh);
     engine([&](const T* sp, std::ptrdiff_t ss, T* dp, std::ptrdiff_t ds, int w, int h) {
       Float64Rows<kIsa>(sp, ss, dp, ds, w, h, win, k);
-    });
+    }, 4);
   } else if (s->kind <= kKind16s16s) {
     const IntRowParams p = IntParamsOf(s);
     engine([&](const T* sp, std::ptrdiff_t ss, T* dp, std::ptrdiff_t ds, int w, int h) {

@@ -891,35 +891,130 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
   }
 }
 
-// 32f sums stored as they are. V = 8; two destination rows per pass, each loaded source
-// vector serving both; blocks of 32 samples; tail: overlapping last vector.
+// ---- 32f ----------------------------------------------------------------------------------------
+// Every 32f sum is taken in the caller's order, kernel rows then columns, the first product
+// starting the sum and each later product added to it (FloatSum): one product and one add per
+// tap, no product skipped, so 0 * inf gives NaN and a NaN anywhere reaches the sum. Without a
+// fused multiply-add the floor of a tap is a multiply (ports 0, 1) and an add (ports 1, 5):
+// two operations over three ports. The vector rows keep the ports busy by register blocking:
+// a pass computes two destination rows of kV vectors, each broadcast coefficient serving kV
+// products and each loaded source vector serving both rows, so 2 * kV independent sums are in
+// flight and each one waits for its own previous add only.
+
+// Sums of kR destination rows (1 or 2) x kV vectors of 8 samples. row(r) points at source row
+// r of the pass under the first tap of the block: the first destination row reads rows
+// 0 .. kh - 1, the second 1 .. kh. `last` points at the last element of the reversed kernel,
+// so tap (i, j) is last[-(i * kw + j)]. kKw is the kernel width when known at compile time
+// (the taps of a row then unroll fully, with no loop counter or pointer steps between them).
+template <int kCh, int kV, int kR, int kKw, class Row>
+TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kwRun, int kh, __m256 (&a)[kR][kV]) {
+  const int kw = kKw ? kKw : kwRun;
+  // Source row r against kernel row r (first sum, kU0) and r - 1 (second sum, kU1); kS0 and
+  // kS1: the row's first tap starts that sum.
+  auto pass = [&](int r, auto u0, auto u1, auto s0, auto s1) __attribute__((always_inline)) {
+    constexpr bool kU0 = decltype(u0)::value, kU1 = decltype(u1)::value;
+    const float* f = row(r);
+    const float* c0 = last - static_cast<std::ptrdiff_t>(r) * kw;
+    const float* c1 = c0 + kw;
+    auto tap = [&](int j, auto st0, auto st1) __attribute__((always_inline)) {
+      __m256 k0, k1;
+      if constexpr (kU0) k0 = _mm256_broadcast_ss(c0 - j);
+      if constexpr (kU1) k1 = _mm256_broadcast_ss(c1 - j);
+      #pragma GCC unroll 8
+      for (int v = 0; v < kV; ++v) {
+        const __m256 x = _mm256_loadu_ps(f + j * kCh + 8 * v);
+        if constexpr (kU0) {
+          const __m256 p = _mm256_mul_ps(k0, x);
+          a[0][v] = decltype(st0)::value ? p : _mm256_add_ps(a[0][v], p);
+        }
+        if constexpr (kU1) {
+          const __m256 p = _mm256_mul_ps(k1, x);
+          a[kR - 1][v] = decltype(st1)::value ? p : _mm256_add_ps(a[kR - 1][v], p);
+        }
+      }
+    };
+    using No = std::false_type;
+    tap(0, s0, s1);
+    if constexpr (kKw > 0) {
+      #pragma GCC unroll 16
+      for (int j = 1; j < kKw; ++j) tap(j, No{}, No{});
+    } else {
+      #pragma GCC unroll 2
+      for (int j = 1; j < kw; ++j) tap(j, No{}, No{});
+    }
+  };
+  using Yes = std::true_type;
+  using No = std::false_type;
+  pass(0, Yes{}, No{}, Yes{}, No{});
+  if constexpr (kR == 1) {
+    for (int r = 1; r < kh; ++r) pass(r, Yes{}, No{}, No{}, No{});
+  } else if (kh == 1) {
+    pass(1, No{}, Yes{}, No{}, Yes{});
+  } else {
+    pass(1, Yes{}, Yes{}, No{}, Yes{});
+    for (int r = 2; r < kh; ++r) pass(r, Yes{}, Yes{}, No{}, No{});
+    pass(kh, No{}, Yes{}, No{}, No{});
+  }
+}
+
+// 32f rows: two destination rows per pass over blocks of 32 samples, then single vectors and
+// an overlapping last vector; an odd last row alone. Rows under 8 samples and the scalar twin
+// take FloatSum. `rev` is the kernel as the spec keeps it (reversed).
+// A full block also asks for the destination lines two blocks ahead and for the block's lines
+// of the two source rows the next pass adds: written lines are then owned before the stores
+// reach them, and the new rows are on their way while this pass computes. (On a 1920-sample
+// row that is worth about a tenth at 5x5.)
 template <int kCh, Isa kI>
 void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrdiff_t dstStep, int w, int h,
-                 const Window& win, const KernelView<float>& k) {
-  const int n = w * kCh;
+                 const Window& win, const float* rev) {
+  const int n = w * kCh, taps = win.kw * win.kh;
   if (kI == Isa::kAvx && n >= 8) {
-    for (int y = 0; y < h; y += 2) {
-      const float* top = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
-      auto row = [&](int i) { return Advance(top, static_cast<std::ptrdiff_t>(i) * srcStep); };
-      float* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep);
-      float* d1 = Advance(d0, dstStep);
-      auto block = [&](auto v, int o) {
-        constexpr int kV = decltype(v)::value;
-        __m256 a0[kV] = {}, a1[kV] = {};
-        if (y + 1 < h) {
-          RowPairSumsAnyWidth<kCh, kV, true>(row, o, win, k, a0, a1);
-          #pragma GCC unroll 8
-          for (int q = 0; q < kV; ++q) _mm256_storeu_ps(d1 + o + 8 * q, a1[q]);
-        } else {
-          RowPairSumsAnyWidth<kCh, kV, false>(row, o, win, k, a0, a1);
-        }
-        #pragma GCC unroll 8
-        for (int q = 0; q < kV; ++q) _mm256_storeu_ps(d0 + o + 8 * q, a0[q]);
-      };
-      ForEachVectorBlock<4, 8>(n, 0, block);
-    }
+    const float* last = rev + (taps - 1);
+    // Full blocks of two rows know the usual widths 3 and 5 at compile time.
+    auto rowsOf = [&](auto kwc) {
+      for (int y = 0; y < h; y += 2) {
+        const float* top = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
+        float* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep);
+        float* d1 = Advance(d0, dstStep);
+        const bool more = y + 2 < h;
+        auto rows = [&](auto rc) {
+          constexpr int kR = decltype(rc)::value;
+          auto block = [&](auto v, int o) {
+            constexpr int kV = decltype(v)::value;
+            auto row = [&](int r) { return Advance(top, static_cast<std::ptrdiff_t>(r) * srcStep) + o; };
+            if constexpr (kV == 4) {
+              auto ahead = [](const float* p) {
+                _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0);
+                _mm_prefetch(reinterpret_cast<const char*>(p + 16), _MM_HINT_T0);
+              };
+              ahead(d0 + o + 64);
+              if constexpr (kR == 2) ahead(d1 + o + 64);
+              if (more) {
+                ahead(row(win.kh + 1) + 32);
+                ahead(row(win.kh + 2) + 32);
+              }
+            }
+            __m256 a[kR][kV];
+            constexpr int kKw = kV == 4 && kR == 2 ? decltype(kwc)::value : 0;
+            Float32Taps<kCh, kV, kR, kKw>(row, last, win.kw, win.kh, a);
+            #pragma GCC unroll 8
+            for (int q = 0; q < kV; ++q) {
+              _mm256_storeu_ps(d0 + o + 8 * q, a[0][q]);
+              if constexpr (kR == 2) _mm256_storeu_ps(d1 + o + 8 * q, a[1][q]);
+            }
+          };
+          ForEachVectorBlock<4, 8>(n, 0, block);
+        };
+        if (y + 1 < h) rows(std::integral_constant<int, 2>{});
+        else rows(std::integral_constant<int, 1>{});
+      }
+    };
+    if (win.kw == 3) rowsOf(std::integral_constant<int, 3>{});
+    else if (win.kw == 5) rowsOf(std::integral_constant<int, 5>{});
+    else rowsOf(std::integral_constant<int, 0>{});
     return;
   }
+  const KernelView<float> k = ReversedView(rev, taps);
   for (int y = 0; y < h; ++y) {
     for (int s = 0; s < n; ++s) dst[s] = FloatSum<float, kCh>(src, srcStep, s, win, k);
     src = Advance(src, srcStep);

@@ -141,8 +141,8 @@ void RingTwins(Rng& rng) {
       for (auto& v : K) v = static_cast<float>(rng.Real(-1.5, 1.5));
       const KernelView<float> kv = rep ? KernelView<float>{K.data(), 1} : ReversedView(K.data(), n);
       if constexpr (std::is_same_v<T, float>) {
-        Float32Rows<kCh, tpx::Isa::kScalar>(world.Region(), world.Step(), a.Data(), a.Step(), w, h, win, kv);
-        Float32Rows<kCh, tpx::Isa::kAvx>(world.Region(), world.Step(), b.Data(), b.Step(), w, h, win, kv);
+        Float32Rows<kCh, tpx::Isa::kScalar>(world.Region(), world.Step(), a.Data(), a.Step(), w, h, win, K.data());
+        Float32Rows<kCh, tpx::Isa::kAvx>(world.Region(), world.Step(), b.Data(), b.Step(), w, h, win, K.data());
       } else {
         const FloatRowParams p{win, kv, static_cast<float>(rng.Int(-3, 3)), rng.Int(0, 2)};
         FloatKindRows<T, kCh, tpx::Isa::kScalar>(world.Region(), world.Step(), a.Data(), a.Step(), w, h, p);

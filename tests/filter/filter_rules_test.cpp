@@ -192,13 +192,21 @@ void FloatTwins(Rng& rng) {
     World<T> world(w, h, 8, kCh, rng.Int(0, 3), rng.Int(0, 2));
     tpxtest::FillRandom(world.img, rng, 0.2);
     if constexpr (std::is_same_v<T, float>) {
+      // Zero taps and a few infinities and NaNs: every product is taken, so 0 * inf reaches
+      // the sum as NaN on both twins. One NaN pattern only (the one 0 * inf makes), so that
+      // the payload of a sum of two NaNs does not hang on the operand order.
+      const float specials[] = {std::numeric_limits<float>::infinity(), -std::numeric_limits<float>::infinity(),
+                                -std::numeric_limits<float>::quiet_NaN(), -0.0f};
+      for (auto& v : K)
+        if (rng.Chance(0.2)) v = rng.Chance(0.5) ? 0.0f : -0.0f;
       for (int y = 0; y < world.img.Height(); ++y)
-        for (int i = 0; i < world.img.RowSamples(); ++i) world.img.Row(y)[i] = static_cast<float>(rng.Real(-100, 100));
+        for (int i = 0; i < world.img.RowSamples(); ++i)
+          world.img.Row(y)[i] = rng.Chance(0.01) ? specials[rng.Int(0, 3)] : static_cast<float>(rng.Real(-100, 100));
     }
     GuardedImage<T> a(w, h, kCh), b(w, h, kCh);
     if constexpr (std::is_same_v<T, float>) {
-      Float32Rows<kCh, tpx::Isa::kScalar>(world.Region(), world.Step(), a.Data(), a.Step(), w, h, win, kv);
-      Float32Rows<kCh, tpx::Isa::kAvx>(world.Region(), world.Step(), b.Data(), b.Step(), w, h, win, kv);
+      Float32Rows<kCh, tpx::Isa::kScalar>(world.Region(), world.Step(), a.Data(), a.Step(), w, h, win, K.data());
+      Float32Rows<kCh, tpx::Isa::kAvx>(world.Region(), world.Step(), b.Data(), b.Step(), w, h, win, K.data());
     } else {
       const FloatRowParams p{win, kv, static_cast<float>(rng.Int(-3, 3)), rng.Int(0, 2)};
       FloatKindRows<T, kCh, tpx::Isa::kScalar>(world.Region(), world.Step(), a.Data(), a.Step(), w, h, p);
@@ -206,6 +214,28 @@ void FloatTwins(Rng& rng) {
     }
     ASSERT_TRUE(tpxtest::SameSamples(a, b)) << "kw=" << kw << " kh=" << kh << " w=" << w;
     ASSERT_TRUE(b.GuardsIntact());
+  }
+}
+
+TEST(FilterTwins, ZeroTapsOverInfinityGiveNaN) {
+  // A 3x3 kernel of zeros over ones with one infinity: NaN where the window covers it, +0
+  // (the sum of +0 products) elsewhere, on both twins.
+  const int w = 20, h = 5, x0 = 9, y0 = 2;
+  World<float> world(w, h, 2, 1, 0, 0);
+  for (int y = 0; y < world.img.Height(); ++y)
+    for (int i = 0; i < world.img.RowSamples(); ++i) world.img.Row(y)[i] = 1.0f;
+  world.img.At(x0 + 2, y0 + 2) = std::numeric_limits<float>::infinity();
+  const std::vector<float> K(9, 0.0f);
+  for (int twin = 0; twin < 2; ++twin) {
+    GuardedImage<float> d(w, h);
+    if (twin) Float32Rows<1, tpx::Isa::kAvx>(world.Region(), world.Step(), d.Data(), d.Step(), w, h, {3, 3, 1, 1}, K.data());
+    else Float32Rows<1, tpx::Isa::kScalar>(world.Region(), world.Step(), d.Data(), d.Step(), w, h, {3, 3, 1, 1}, K.data());
+    for (int y = 0; y < h; ++y)
+      for (int x = 0; x < w; ++x) {
+        const bool covered = std::abs(x - x0) <= 1 && std::abs(y - y0) <= 1;
+        EXPECT_EQ(covered, std::isnan(d.At(x, y))) << twin << " " << x << "," << y;
+        if (!covered) EXPECT_FALSE(std::signbit(d.At(x, y)));
+      }
   }
 }
 
