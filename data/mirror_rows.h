@@ -49,6 +49,8 @@ inline __m128i Table16(const unsigned char* t) { return _mm_load_si128(reinterpr
 // d pixel j = s pixel w - 1 - j, j < w, w >= 0; s and d must not overlap. AC4 keeps destination
 // alpha. V = 16 bytes, kK pixels a step; stray bytes past them are rewritten by the next step or
 // the tail. Tail: scalar.
+inline constexpr std::ptrdiff_t kReverseAhead = 2048;
+
 template <Isa kI, class T, Layout kL>
 inline void ReverseRow(const T* s, T* d, int w) {
   constexpr int S = Stride(kL), P = Processed(kL);
@@ -59,6 +61,21 @@ inline void ReverseRow(const T* s, T* d, int w) {
     const auto* sb = reinterpret_cast<const unsigned char*>(s);
     auto* db = reinterpret_cast<unsigned char*>(d);
     const __m128i idx = Table16(tab.fromRight), keep = Table16(tab.keepLeft);
+    // Long rows ask for the lines ahead of need: the source is read backward, which the
+    // hardware streams follow late, and each destination line is owned before its stores
+    // reach it. A prefetch changes nothing and may point past the row.
+    for (; static_cast<long long>(w - j - 3 * Tab::kK) * Tab::kPb >= 16; j += 4 * Tab::kK) {
+      const unsigned char* from = sb + static_cast<std::ptrdiff_t>(w - j) * Tab::kPb;
+      unsigned char* at = db + static_cast<std::ptrdiff_t>(j) * Tab::kPb;
+      _mm_prefetch(reinterpret_cast<const char*>(from - kReverseAhead), _MM_HINT_T0);
+      _mm_prefetch(reinterpret_cast<const char*>(at + kReverseAhead), _MM_HINT_T0);
+      for (int k = 0; k < 4; ++k) {
+        constexpr int kStep = Tab::kK * Tab::kPb;  // bytes a step owns (15 for three-byte pixels)
+        __m128i v = _mm_shuffle_epi8(Load16(from - k * kStep - 16), idx);
+        if constexpr (KeepsAlpha(kL)) v = _mm_blendv_epi8(v, Load16(at + k * kStep), keep);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(at + k * kStep), v);
+      }
+    }
     for (; static_cast<long long>(w - j) * Tab::kPb >= 16; j += Tab::kK) {
       __m128i v = _mm_shuffle_epi8(Load16(sb + static_cast<std::ptrdiff_t>(w - j) * Tab::kPb - 16), idx);
       unsigned char* at = db + static_cast<std::ptrdiff_t>(j) * Tab::kPb;
