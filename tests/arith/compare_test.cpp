@@ -10,8 +10,7 @@
 #include <string>
 
 #include "arith/compare.h"
-#include "decide_test_util.h"
-#include "support/sweep.h"
+#include "arith_util.h"
 #include "tpxip.h"
 #ifdef TPX_HAVE_OPENCV
 #include <opencv2/core.hpp>
@@ -21,8 +20,6 @@ namespace {
 
 using namespace decide;
 using tpx::Isa;
-using tpxtest::GuardedImage;
-using tpxtest::Rng;
 
 template <class T>
 bool Holds(int op, T a, T b) {

@@ -8,16 +8,13 @@
 #include <string>
 
 #include "arith/threshold.h"
-#include "decide_test_util.h"
-#include "support/sweep.h"
+#include "arith_util.h"
 #include "tpxip.h"
 
 namespace {
 
 using namespace decide;
 using tpx::Isa;
-using tpxtest::GuardedImage;
-using tpxtest::Rng;
 
 enum class Fam { kByOp, kGT, kLT, kValByOp, kGTVal, kLTVal, kLTValGTVal };
 
