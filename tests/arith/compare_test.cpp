@@ -76,9 +76,7 @@ TEST(Compare, EveryExportAndOpFollowsTheRuleOnTiesAndNaN) {
         const int maskPad = sh.padSamples == 0 && sh.height % 2 ? sh.width * (ch - 1) : sh.padSamples;
         GuardedImage<T> b(sh.width, sh.height, ch, sh.padSamples ? (sh.padSamples + 5) % 7 : 0, (sh.misalign + 3) % 5);
         GuardedImage<Tpx8u> d(sh.width, sh.height, 1, maskPad, sh.misalign), want(sh.width, sh.height);
-        tpxtest::FillFrom(a, rng, SamplesAround<T>());
-        // Mostly the same set, so that many pixels are equal in some or all channels.
-        tpxtest::FillFrom(b, rng, Pivots<T>());
+        FillFrom(a, rng, SamplesAround<T>()), FillFrom(b, rng, Pivots<T>());  // many pixels equal in some channels
         std::vector<T> value(tpx::Stride(k.layout) == 4 && k.layout != Layout::AC4 ? 4 : 3);  // exact length
         for (T& v : value) v = Pivots<T>()[rng.Int(0, 4)];
         const std::string where = k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height);
@@ -122,8 +120,7 @@ TEST(Compare, EqualEpsIsAbsoluteDifferenceAtMostEps) {
     for (const tpxtest::Shape& sh : decide::Shapes(8)) {
       GuardedImage<float> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign), b(sh.width, sh.height, ch, sh.padSamples ? 1 : 0, 2);
       GuardedImage<Tpx8u> d(sh.width, sh.height, 1, sh.padSamples, sh.misalign), want(sh.width, sh.height);
-      tpxtest::FillFrom(a, rng, SamplesAround<float>());
-      tpxtest::FillFrom(b, rng, SamplesAround<float>());
+      FillFrom(a, rng, SamplesAround<float>()), FillFrom(b, rng, SamplesAround<float>());
       const float value[4] = {2.0f, -1.5f, 0.0f, 7.25f};
       for (float eps : {0.0f, -0.0f, 0.5f, 2.0f, 3.5f, INFINITY, nan}) {
         // Differences of the pivots hit 0.5, 2 and 3.5 exactly: equality with eps holds.
@@ -155,8 +152,7 @@ void TwinsAgree(Rng& rng, const Rel& rel) {
   for (int px = 0; px <= 51; ++px)
     for (int mis = 0; mis < 4; ++mis) {
       GuardedImage<T> a(px, 1, C, 0, mis), b(px, 1, C, 0, 3 - mis);
-      tpxtest::FillFrom(a, rng, SamplesAround<T>());
-      tpxtest::FillFrom(b, rng, Pivots<T>());
+      FillFrom(a, rng, SamplesAround<T>()), FillFrom(b, rng, Pivots<T>());
       const tpx::RowOperand<T, L> ra{a.Data()}, rb{b.Data()};
       auto agree = [&](const auto& x, const auto& y) {
         GuardedImage<Tpx8u> ref(px, 1, 1, 0, mis), got(px, 1, 1, 0, (mis + 5) % 16), nt(px, 1, 1, 0, mis);
@@ -191,8 +187,7 @@ TEST(Compare, LargeAligned8uImagesGiveTheSameMasks) {
     const Case<Tpx8u>& k = Cases<Tpx8u>()[l == Layout::C1 ? 0 : l == Layout::C3 ? 1 : 3];
     const int ch = tpx::Stride(l);
     GuardedImage<Tpx8u> a(1024, 360, ch), b(1024, 360, ch), d(1024, 360), want(1024, 360);
-    tpxtest::FillFrom(a, rng, Pivots<Tpx8u>());
-    tpxtest::FillFrom(b, rng, Pivots<Tpx8u>());
+    FillFrom(a, rng, Pivots<Tpx8u>()), FillFrom(b, rng, Pivots<Tpx8u>());
     const std::vector<Tpx8u> value = {3, 100, 101};
     ModelMask(want, l, [&](int x, int y, int c) { return a.At(x, y, c) <= b.At(x, y, c); });
     ASSERT_EQ(k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), tpxCmpLessEq), tpxOk);
@@ -236,9 +231,7 @@ TEST(Compare, AgreesWithOpenCvCompare) {
       const int ch = tpx::Stride(k.layout);
       GuardedImage<T> a(67, 9, ch, 3, 1), b(67, 9, ch, 0, 2);
       GuardedImage<Tpx8u> d(67, 9);
-      for (GuardedImage<T>* img : {&a, &b})  // the pivot set: ties, no NaN
-        for (int y = 0; y < 9; ++y)
-          for (int i = 0; i < img->RowSamples(); ++i) img->Row(y)[i] = Pivots<T>()[rng.Int(0, 4)];
+      FillFrom(a, rng, Pivots<T>()), FillFrom(b, rng, Pivots<T>());  // ties, no NaN
       std::vector<cv::Mat> pa, pb;
       cv::split(cv::Mat(9, 67, CV_MAKETYPE(depth, ch), a.Data(), a.Step()), pa);
       cv::split(cv::Mat(9, 67, CV_MAKETYPE(depth, ch), b.Data(), b.Step()), pb);

@@ -98,13 +98,11 @@ const bool kRegistered = [] {
 template <class T>
 Args<T> RandomArgs(Rng& rng) {
   const std::vector<T> piv = Pivots<T>(), around = SamplesAround<T>();
+  auto pick = [&](const std::vector<T>& v) { return v[rng.Int(0, int(v.size()) - 1)]; };
   Args<T> a;
   for (int c = 0; c < 4; ++c) {
-    a.t[c] = piv[rng.Int(0, int(piv.size()) - 1)];
-    a.tGT[c] = piv[rng.Int(0, int(piv.size()) - 1)];
+    a.t[c] = pick(piv), a.tGT[c] = pick(piv), a.v[c] = pick(around), a.vGT[c] = pick(around);
     if (a.tGT[c] < a.t[c]) std::swap(a.tGT[c], a.t[c]);
-    a.v[c] = around[rng.Int(0, int(around.size()) - 1)];
-    a.vGT[c] = around[rng.Int(0, int(around.size()) - 1)];
   }
   a.cmpOp = rng.Chance(0.5) ? tpxCmpLess : tpxCmpGreater;
   return a;
@@ -126,24 +124,20 @@ TEST(Threshold, EveryExportFollowsItsRuleOnTiesNaNAndAlpha) {
     for (const Case<T>& k : Cases<T>()) {
       const int ch = tpx::Stride(k.layout);
       for (const tpxtest::Shape& sh : decide::Shapes(Lanes<T>())) {
-        GuardedImage<T> src(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
-        GuardedImage<T> dst(sh.width, sh.height, ch, (sh.padSamples * 7) % 11, (sh.misalign + 2) % 5);
-        tpxtest::FillFrom(src, rng, SamplesAround<T>());
-        tpxtest::FillFrom(dst, rng, SamplesAround<T>());
+        GuardedImage<T> src(sh.width, sh.height, ch, sh.padSamples, sh.misalign), want(sh.width, sh.height, ch),
+            dst(sh.width, sh.height, ch, (sh.padSamples * 7) % 11, (sh.misalign + 2) % 5);
+        FillFrom(src, rng, SamplesAround<T>()), FillFrom(dst, rng, SamplesAround<T>());
         const Args<T> a = RandomArgs<T>(rng);
-        GuardedImage<T> want(sh.width, sh.height, ch);
         want.CopyFrom(dst);
         Expect(k, src, want, a);
         const std::string where = k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height);
         ASSERT_EQ(k.r(src.Data(), src.Step(), dst.Data(), dst.Step(), src.Size(), a), tpxOk) << where;
-        ASSERT_TRUE(SameSamples(dst, want)) << where;
-        ASSERT_TRUE(dst.GuardsIntact()) << where;
+        ASSERT_TRUE(SameSamples(dst, want) && dst.GuardsIntact()) << where;
         // In place on the same source: the alpha of the source image itself stays.
         want.CopyFrom(src);
         Expect(k, src, want, a);
         ASSERT_EQ(k.ir(src.Data(), src.Step(), src.Size(), a), tpxOk) << where;
-        ASSERT_TRUE(SameSamples(src, want)) << where << " IR";
-        ASSERT_TRUE(src.GuardsIntact()) << where << " IR";
+        ASSERT_TRUE(SameSamples(src, want) && src.GuardsIntact()) << where << " IR";
       }
     }
   });
@@ -164,16 +158,14 @@ void TwinsAgree(Rng& rng) {
   for (int px = 0; px <= 3 * Lanes<T>() + 3; ++px)
     for (int mis = 0; mis < 4; ++mis) {
       GuardedImage<T> s(px, 1, C, 0, mis), ref(px, 1, C, 0, 3 - mis), got(px, 1, C);
-      tpxtest::FillFrom(s, rng, SamplesAround<T>());
-      tpxtest::FillFrom(ref, rng, SamplesAround<T>());
+      FillFrom(s, rng, SamplesAround<T>()), FillFrom(ref, rng, SamplesAround<T>());
       got.CopyFrom(ref);
       tpx::ThresholdRow<Op, T, L, Isa::kScalar>(s.Data(), ref.Data(), px * C, tile);
       tpx::ThresholdRow<Op, T, L, Isa::kAvx>(s.Data(), got.Data(), px * C, tile);
       ASSERT_TRUE(SameSamples(ref, got) && got.GuardsIntact()) << px << " " << mis;
       // In place, with streaming stores where the head reaches the boundary.
       GuardedImage<T> ip0(px, 1, C, 0, mis), ip1(px, 1, C, 0, (mis + 1) % 4);
-      ip0.CopyFrom(s);
-      ip1.CopyFrom(s);
+      ip0.CopyFrom(s), ip1.CopyFrom(s);
       tpx::ThresholdRow<Op, T, L, Isa::kScalar>(ip0.Data(), ip0.Data(), px * C, tile);
       tpx::ThresholdRow<Op, T, L, Isa::kAvx, true>(ip1.Data(), ip1.Data(), px * C, tile);
       ASSERT_TRUE(SameSamples(ip0, ip1) && ip1.GuardsIntact()) << px << " " << mis;
@@ -254,9 +246,7 @@ TEST(Threshold, CheckOrderWithTwoFaults) {
   // Equal thresholds are allowed and keep the samples equal to them.
   Tpx8u row[3] = {4, 5, 6};
   EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_C1IR(row, 3, TpxSize{3, 1}, 5, 0, 5, 255), tpxOk);
-  EXPECT_EQ(row[0], 0);
-  EXPECT_EQ(row[1], 5);
-  EXPECT_EQ(row[2], 255);
+  EXPECT_TRUE(row[0] == 0 && row[1] == 5 && row[2] == 255);
 }
 
 // The NaN difference between the clamping and the Val forms, with NaN thresholds too.
