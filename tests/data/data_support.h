@@ -1,12 +1,14 @@
-// Shared pieces of the copy-and-rearrange tests: fake cache queries, the sweep that runs an
-// export over every shape against a reference model, and bytewise comparison with guards.
+// Shared pieces of the copy-and-rearrange tests: fake cache queries, the sweep of an export over
+// shapes against a reference model, bytewise comparison with guards, and vector-versus-scalar runs.
 #pragma once
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 #include <vector>
 
+#include "core/isa.h"
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
@@ -16,6 +18,7 @@ namespace datatest {
 
 using tpxtest::GuardedImage;
 using tpxtest::Rng;
+using tpxtest::Shape;
 
 // The sample types of the family, for member tables and typed tests.
 #define DATATEST_TYPES(X) X(8u) X(16u) X(16s) X(32s) X(32f)
@@ -25,9 +28,18 @@ using AllTypes = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
 inline constexpr int kLayoutChannels[4] = {1, 3, 4, 4};
 inline constexpr int kLayoutWritten[4] = {1, 3, 4, 3};
 
+template <class T>
+constexpr int Vec() { return static_cast<int>(32 / sizeof(T)); }
+
 inline int CacheTiny(int* size) { *size = 1; return 0; }            // every call past a floor streams
 inline int CacheUnknown(int* size) { *size = 0; return -1; }        // plain stores
 inline int CacheHuge(int* size) { *size = 0x7fffffff; return 0; }   // plain stores, query succeeds
+
+template <class F>
+void Each(int w, int h, F&& f) {
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) f(x, y);
+}
 
 // Samples of an image without padding, as the reference models see it.
 template <class T>
@@ -53,21 +65,64 @@ template <class T>
   return ::testing::AssertionSuccess();
 }
 
-// Runs call(src, dst) over every shape of tpxtest::Shapes(V), source of srcCh and destination of
-// dstCh samples a pixel at the same extents, random contents in both. ref(src, want) turns the
-// destination's samples before the call into the expected ones.
-template <class T, class Call, class Ref>
-void Sweep(int srcCh, int dstCh, int V, Rng& rng, Call&& call, Ref&& ref) {
-  for (const tpxtest::Shape sh : tpxtest::Shapes(V)) {
+// Runs call(src, dst) over the shapes, source of srcCh and destination of dstCh samples a pixel
+// (extents swapped if `swap`), random contents in both. px(s, want, x, y) turns the destination's
+// samples before the call into the expected ones, for every source pixel.
+template <class T, class Call, class Px>
+void Sweep(const std::vector<Shape>& shapes, int srcCh, int dstCh, Rng& rng, Call&& call, Px&& px, bool swap = false) {
+  for (const Shape sh : shapes) {
     GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign);
-    GuardedImage<T> dst(sh.width, sh.height, dstCh, (sh.padSamples * 3) % 7, (sh.misalign + 3) % 5);
+    GuardedImage<T> dst(swap ? sh.height : sh.width, swap ? sh.width : sh.height, dstCh, (sh.padSamples * 3) % 7,
+                        (sh.misalign + 3) % 5);
     tpxtest::FillRandom(src, rng);
     tpxtest::FillRandom(dst, rng);
+    const Plain<T> s(src);
     Plain<T> want(dst);
-    ref(Plain<T>(src), want);
     ASSERT_EQ(tpxOk, call(src, dst)) << sh.width << "x" << sh.height;
-    ASSERT_TRUE(Same(dst, want)) << "pad " << sh.padSamples << " mis " << sh.misalign;
+    Each(s.w, s.h, [&](int x, int y) { px(s, want, x, y); });
+    ASSERT_TRUE(Same(dst, want)) << sh.width << "x" << sh.height << " pad " << sh.padSamples << " mis " << sh.misalign;
   }
+}
+
+// Runs f(dst, query) on `a` with a one-byte cache (every driver past its floor streams) and on a
+// copy with no known cache (plain stores): both must end equal, with the guards intact.
+template <class T, class F>
+void StreamsLikePlain(GuardedImage<T>& a, F&& f) {
+  GuardedImage<T> b(a.Width(), a.Height(), a.Channels());
+  b.CopyFrom(a);
+  f(a, CacheTiny);
+  f(b, CacheUnknown);
+  ASSERT_TRUE(a.GuardsIntact());
+  ASSERT_TRUE(tpxtest::SameSamples(a, b));
+}
+
+using Avx = std::integral_constant<tpx::Isa, tpx::Isa::kAvx>;
+using Scalar = std::integral_constant<tpx::Isa, tpx::Isa::kScalar>;
+
+template <class T>
+T* Aligned64(std::vector<T>& v) {
+  return v.data() + ((0u - reinterpret_cast<std::uintptr_t>(v.data())) & 63u) / sizeof(T);
+}
+
+// Runs k(isa, buffers) with the vector kernels on random 64-byte aligned buffers of the given
+// sample counts and with their scalar twins on copies of them: every buffer must end bytewise equal.
+template <class T, class K>
+::testing::AssertionResult Twin(Rng& rng, const std::vector<int>& sizes, K&& k) {
+  std::vector<std::vector<T>> a(sizes.size()), b(sizes.size());
+  std::vector<T*> pa, pb;
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    a[i].resize(sizes[i] + 64 / sizeof(T));
+    b[i].resize(a[i].size());
+    pa.push_back(Aligned64(a[i]));
+    pb.push_back(Aligned64(b[i]));
+    for (int j = 0; j < sizes[i]; ++j) pb[i][j] = pa[i][j] = rng.Sample<T>();
+  }
+  k(Avx{}, pa.data());
+  k(Scalar{}, pb.data());
+  for (std::size_t i = 0; i < sizes.size(); ++i)
+    if (std::memcmp(pa[i], pb[i], sizes[i] * sizeof(T)) != 0)
+      return ::testing::AssertionFailure() << "buffer " << i << " differs";
+  return ::testing::AssertionSuccess();
 }
 
 // Bits of a mask with random zeros: runs of zeros and non-zeros, so that whole 16-pixel steps of
