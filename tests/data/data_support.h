@@ -41,45 +41,34 @@ void Each(int w, int h, F&& f) {
     for (int x = 0; x < w; ++x) f(x, y);
 }
 
-// Samples of an image without padding, as the reference models see it.
+// Untouched guard bands and bytewise equal samples.
 template <class T>
-struct Plain {
-  int w, h, ch;
-  std::vector<T> v;
-  explicit Plain(const GuardedImage<T>& img) : w(img.Width()), h(img.Height()), ch(img.Channels()), v(img.Samples()) {}
-  T& At(int x, int y, int c = 0) { return v[(static_cast<std::size_t>(y) * w + x) * ch + c]; }
-  const T& At(int x, int y, int c = 0) const { return v[(static_cast<std::size_t>(y) * w + x) * ch + c]; }
-};
-
-// Bytewise equality of an image with the expected samples, and untouched guard bands.
-template <class T>
-::testing::AssertionResult Same(const GuardedImage<T>& got, const Plain<T>& want) {
+::testing::AssertionResult Same(const GuardedImage<T>& got, const GuardedImage<T>& want) {
+  int i = 0, y = 0;
   if (!got.GuardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
-  const std::vector<T> g = got.Samples();
-  for (std::size_t i = 0; i < g.size(); ++i)
-    if (std::memcmp(&g[i], &want.v[i], sizeof(T)) != 0) {
-      const std::size_t px = i / want.ch;
-      return ::testing::AssertionFailure() << "sample " << i % want.ch << " of pixel (" << px % want.w << ", "
-                                           << px / want.w << ") in " << want.w << "x" << want.h;
-    }
-  return ::testing::AssertionSuccess();
+  if (tpxtest::SameSamples(got, want, &i, &y)) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "sample " << i << " of row " << y << " in " << want.Width() << "x" << want.Height();
 }
 
-// Runs call(src, dst) over the shapes, source of srcCh and destination of dstCh samples a pixel
-// (extents swapped if `swap`), random contents in both. px(s, want, x, y) turns the destination's
-// samples before the call into the expected ones, for every source pixel.
+// The destination of a sweep: random at the source's extents, random at swapped extents, or a
+// copy of the source for the in-place forms.
+enum Dst { kFresh, kSwapped, kCopyOfSrc };
+
+// Runs call(src, dst) over the shapes, source of srcCh and destination of dstCh samples a pixel,
+// random contents. px(src, want, x, y) turns the destination's samples before the call into the
+// expected ones, for every source pixel.
 template <class T, class Call, class Px>
-void Sweep(const std::vector<Shape>& shapes, int srcCh, int dstCh, Rng& rng, Call&& call, Px&& px, bool swap = false) {
+void Sweep(const std::vector<Shape>& shapes, int srcCh, int dstCh, Rng& rng, Call&& call, Px&& px, Dst mode = kFresh) {
   for (const Shape sh : shapes) {
-    GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign);
-    GuardedImage<T> dst(swap ? sh.height : sh.width, swap ? sh.width : sh.height, dstCh, (sh.padSamples * 3) % 7,
-                        (sh.misalign + 3) % 5);
+    const int w = mode == kSwapped ? sh.height : sh.width, h = mode == kSwapped ? sh.width : sh.height;
+    GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign), want(w, h, dstCh);
+    GuardedImage<T> dst(w, h, dstCh, (sh.padSamples * 3) % 7, (sh.misalign + 3) % 5);
     tpxtest::FillRandom(src, rng);
     tpxtest::FillRandom(dst, rng);
-    const Plain<T> s(src);
-    Plain<T> want(dst);
+    if (mode == kCopyOfSrc) dst.CopyFrom(src);
+    want.CopyFrom(dst);
     ASSERT_EQ(tpxOk, call(src, dst)) << sh.width << "x" << sh.height;
-    Each(s.w, s.h, [&](int x, int y) { px(s, want, x, y); });
+    Each(sh.width, sh.height, [&](int x, int y) { px(src, want, x, y); });
     ASSERT_TRUE(Same(dst, want)) << sh.width << "x" << sh.height << " pad " << sh.padSamples << " mis " << sh.misalign;
   }
 }
@@ -128,17 +117,12 @@ template <class T, class K>
 // Bits of a mask with random zeros: runs of zeros and non-zeros, so that whole 16-pixel steps of
 // either kind occur beside mixed ones.
 inline void FillMask(GuardedImage<Tpx8u>& m, Rng& rng) {
-  for (int y = 0; y < m.Height(); ++y) {
-    int run = 0;
-    bool on = rng.Chance(0.5);
-    for (int x = 0; x < m.Width(); ++x) {
-      if (run-- <= 0) {
-        on = !on;
-        run = rng.Chance(0.5) ? rng.Int(0, 3) : rng.Int(10, 40);
-      }
-      m.At(x, y) = on ? static_cast<Tpx8u>(rng.Int(1, 255)) : 0;
-    }
-  }
+  int run = 0;
+  bool on = rng.Chance(0.5);
+  Each(m.Width(), m.Height(), [&](int x, int y) {
+    if (run-- <= 0) on = !on, run = rng.Chance(0.5) ? rng.Int(0, 3) : rng.Int(10, 40);
+    m.At(x, y) = on ? static_cast<Tpx8u>(rng.Int(1, 255)) : 0;
+  });
 }
 
 }  // namespace datatest

@@ -50,7 +50,7 @@ TYPED_TEST(SetTest, EveryMemberPlainAndMasked) {
             return l == 0 ? Api<T>::c1m(value[0], d.Data(), d.Step(), d.Size(), mask->Data(), mask->Step())
                           : Api<T>::byPtrM[l - 1](value, d.Data(), d.Step(), d.Size(), mask->Data(), mask->Step());
           },
-          [&](const Plain<T>&, Plain<T>& want, int x, int y) {
+          [&](const GuardedImage<T>&, GuardedImage<T>& want, int x, int y) {
             if (l >= 4) want.At(x, y, c0) = value[0];
             else if (!masked || mask->At(x, y))
               for (int c = 0; c < kLayoutWritten[l]; ++c) want.At(x, y, c) = value[c];
