@@ -39,9 +39,7 @@ struct Api;
   };
 DATATEST_TYPES(TPX_COPY_API)
 
-template <class T>
-class CopyTest : public ::testing::Test {};
-TYPED_TEST_SUITE(CopyTest, AllTypes);
+DATATEST_TYPED_SUITE(CopyTest);
 
 TYPED_TEST(CopyTest, PlainAndMaskedEveryLayout) {
   using T = TypeParam;
@@ -285,10 +283,11 @@ void MaskAndPlanarTwins(Rng& rng) {
   for (int n = 0; n <= 3 * 64 / static_cast<int>(sizeof(T)) + 3 * 16 + 3; ++n) {
     std::vector<Tpx8u> m(n + 1);
     for (auto& v : m) v = rng.Chance(0.5) ? 0 : static_cast<Tpx8u>(rng.Int(1, 255));
-    ASSERT_TRUE(Twin<T>(rng, {n * S + 4, n * S + 1, n * S + 1}, [&](auto isa, T* const* b) {
-      tpx::MaskedRow<isa, T, kL, true>(b[0], b[1], m.data(), n);
-      tpx::MaskedRow<isa, T, kL, false>(b[0], b[2], m.data(), n);
-    })) << "masked n=" << n;
+    if (n <= 3 * 16 + 3)
+      ASSERT_TRUE(Twin<T>(rng, {n * S + 4, n * S + 1, n * S + 1}, [&](auto isa, T* const* b) {
+        tpx::MaskedRow<isa, T, kL, true>(b[0], b[1], m.data(), n);
+        tpx::MaskedRow<isa, T, kL, false>(b[0], b[2], m.data(), n);
+      })) << "masked n=" << n;
     ASSERT_TRUE(Twin<T>(rng, {n * kC + 1, kC * (n + 1), n * kC + 1}, [&](auto isa, T* const* b) {
       T* p[kC];
       for (int c = 0; c < kC; ++c) p[c] = b[1] + c * (n + 1);

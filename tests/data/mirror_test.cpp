@@ -25,9 +25,7 @@ struct Api;
   };
 DATATEST_TYPES(TPX_MIRROR_API)
 
-template <class T>
-class MirrorTest : public ::testing::Test {};
-TYPED_TEST_SUITE(MirrorTest, AllTypes);
+DATATEST_TYPED_SUITE(MirrorTest);
 
 TYPED_TEST(MirrorTest, EveryAxisAndLayout) {
   using T = TypeParam;

@@ -20,9 +20,7 @@ struct Api;
   };
 DATATEST_TYPES(TPX_SWAP_API)
 
-template <class T>
-class SwapTest : public ::testing::Test {};
-TYPED_TEST_SUITE(SwapTest, AllTypes);
+DATATEST_TYPED_SUITE(SwapTest);
 
 // Forms C3, C4, AC4, C4C3 and (4) C3C4R, where entry 3 writes val and above 3 leaves the channel.
 TYPED_TEST(SwapTest, EveryFormAgainstReference) {

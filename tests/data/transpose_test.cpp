@@ -43,9 +43,7 @@ void TransposePx(const GuardedImage<T>& s, GuardedImage<T>& want, int x, int y) 
   for (int c = 0; c < s.Channels(); ++c) want.At(y, x, c) = s.At(x, y, c);
 }
 
-template <class T>
-class TransposeTest : public ::testing::Test {};
-TYPED_TEST_SUITE(TransposeTest, AllTypes);
+DATATEST_TYPED_SUITE(TransposeTest);
 
 TYPED_TEST(TransposeTest, OutOfPlaceAndInPlaceAgainstReference) {
   using T = TypeParam;
