@@ -1,12 +1,14 @@
-// Shared pieces of the copy-and-rearrange tests: fake cache queries, the sweep that runs an
-// export over every shape against a reference model, and bytewise comparison with guards.
+// Shared pieces of the copy-and-rearrange tests: fake cache queries, the sweep of an export over
+// shapes against a reference model, bytewise comparison with guards, and vector-versus-scalar runs.
 #pragma once
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 #include <vector>
 
+#include "core/isa.h"
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
@@ -16,74 +18,115 @@ namespace datatest {
 
 using tpxtest::GuardedImage;
 using tpxtest::Rng;
+using tpxtest::Shape;
 
 // The sample types of the family, for member tables and typed tests.
 #define DATATEST_TYPES(X) X(8u) X(16u) X(16s) X(32s) X(32f)
 using AllTypes = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
+#define DATATEST_TYPED_SUITE(Name)                 \
+  template <class T>                               \
+  class Name : public ::testing::Test {};          \
+  TYPED_TEST_SUITE(Name, datatest::AllTypes)
 
 // Layouts C1, C3, C4, AC4 in this order: samples a pixel and samples an operation writes.
 inline constexpr int kLayoutChannels[4] = {1, 3, 4, 4};
 inline constexpr int kLayoutWritten[4] = {1, 3, 4, 3};
 
+template <class T>
+constexpr int Vec() { return static_cast<int>(32 / sizeof(T)); }
+
 inline int CacheTiny(int* size) { *size = 1; return 0; }            // every call past a floor streams
 inline int CacheUnknown(int* size) { *size = 0; return -1; }        // plain stores
 inline int CacheHuge(int* size) { *size = 0x7fffffff; return 0; }   // plain stores, query succeeds
 
-// Samples of an image without padding, as the reference models see it.
-template <class T>
-struct Plain {
-  int w, h, ch;
-  std::vector<T> v;
-  explicit Plain(const GuardedImage<T>& img) : w(img.Width()), h(img.Height()), ch(img.Channels()), v(img.Samples()) {}
-  T& At(int x, int y, int c = 0) { return v[(static_cast<std::size_t>(y) * w + x) * ch + c]; }
-  const T& At(int x, int y, int c = 0) const { return v[(static_cast<std::size_t>(y) * w + x) * ch + c]; }
-};
-
-// Bytewise equality of an image with the expected samples, and untouched guard bands.
-template <class T>
-::testing::AssertionResult Same(const GuardedImage<T>& got, const Plain<T>& want) {
-  if (!got.GuardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
-  const std::vector<T> g = got.Samples();
-  for (std::size_t i = 0; i < g.size(); ++i)
-    if (std::memcmp(&g[i], &want.v[i], sizeof(T)) != 0) {
-      const std::size_t px = i / want.ch;
-      return ::testing::AssertionFailure() << "sample " << i % want.ch << " of pixel (" << px % want.w << ", "
-                                           << px / want.w << ") in " << want.w << "x" << want.h;
-    }
-  return ::testing::AssertionSuccess();
+template <class F>
+void Each(int w, int h, F&& f) {
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) f(x, y);
 }
 
-// Runs call(src, dst) over every shape of tpxtest::Shapes(V), source of srcCh and destination of
-// dstCh samples a pixel at the same extents, random contents in both. ref(src, want) turns the
-// destination's samples before the call into the expected ones.
-template <class T, class Call, class Ref>
-void Sweep(int srcCh, int dstCh, int V, Rng& rng, Call&& call, Ref&& ref) {
-  for (const tpxtest::Shape sh : tpxtest::Shapes(V)) {
-    GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign);
-    GuardedImage<T> dst(sh.width, sh.height, dstCh, (sh.padSamples * 3) % 7, (sh.misalign + 3) % 5);
+// Untouched guard bands and bytewise equal samples.
+template <class T>
+::testing::AssertionResult Same(const GuardedImage<T>& got, const GuardedImage<T>& want) {
+  int i = 0, y = 0;
+  if (!got.GuardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
+  if (tpxtest::SameSamples(got, want, &i, &y)) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "sample " << i << " of row " << y << " in " << want.Width() << "x" << want.Height();
+}
+
+// The destination of a sweep: random at the source's extents, random at swapped extents, or a
+// copy of the source for the in-place forms.
+enum Dst { kFresh, kSwapped, kCopyOfSrc };
+
+// Runs call(src, dst) over the shapes, source of srcCh and destination of dstCh samples a pixel,
+// random contents. px(src, want, x, y) turns the destination's samples before the call into the
+// expected ones, for every source pixel.
+template <class T, class Call, class Px>
+void Sweep(const std::vector<Shape>& shapes, int srcCh, int dstCh, Rng& rng, Call&& call, Px&& px, Dst mode = kFresh) {
+  for (const Shape sh : shapes) {
+    const int w = mode == kSwapped ? sh.height : sh.width, h = mode == kSwapped ? sh.width : sh.height;
+    GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign), want(w, h, dstCh);
+    GuardedImage<T> dst(w, h, dstCh, (sh.padSamples * 3) % 7, (sh.misalign + 3) % 5);
     tpxtest::FillRandom(src, rng);
-    tpxtest::FillRandom(dst, rng);
-    Plain<T> want(dst);
-    ref(Plain<T>(src), want);
+    if (mode == kCopyOfSrc) dst.CopyFrom(src);
+    else tpxtest::FillRandom(dst, rng);
+    want.CopyFrom(dst);
     ASSERT_EQ(tpxOk, call(src, dst)) << sh.width << "x" << sh.height;
-    ASSERT_TRUE(Same(dst, want)) << "pad " << sh.padSamples << " mis " << sh.misalign;
+    Each(sh.width, sh.height, [&](int x, int y) { px(src, want, x, y); });
+    ASSERT_TRUE(Same(dst, want)) << sh.width << "x" << sh.height << " pad " << sh.padSamples << " mis " << sh.misalign;
   }
+}
+
+// Runs f(dst, query) on `a` with a one-byte cache (every driver past its floor streams) and on a
+// copy with no known cache (plain stores): both must end equal, with the guards intact.
+template <class T, class F>
+void StreamsLikePlain(GuardedImage<T>& a, F&& f) {
+  GuardedImage<T> b(a.Width(), a.Height(), a.Channels());
+  b.CopyFrom(a);
+  f(a, CacheTiny);
+  f(b, CacheUnknown);
+  ASSERT_TRUE(a.GuardsIntact());
+  ASSERT_TRUE(tpxtest::SameSamples(a, b));
+}
+
+using Avx = std::integral_constant<tpx::Isa, tpx::Isa::kAvx>;
+using Scalar = std::integral_constant<tpx::Isa, tpx::Isa::kScalar>;
+
+template <class T>
+T* Aligned64(std::vector<T>& v) {
+  return v.data() + ((0u - reinterpret_cast<std::uintptr_t>(v.data())) & 63u) / sizeof(T);
+}
+
+// Runs k(isa, buffers) with the vector kernels on random 64-byte aligned buffers of the given
+// sample counts and with their scalar twins on copies of them: every buffer must end bytewise equal.
+template <class T, class K>
+::testing::AssertionResult Twin(Rng& rng, const std::vector<int>& sizes, K&& k) {
+  std::vector<std::vector<T>> a(sizes.size()), b(sizes.size());
+  std::vector<T*> pa, pb;
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    a[i].resize(sizes[i] + 64 / sizeof(T));
+    b[i].resize(a[i].size());
+    pa.push_back(Aligned64(a[i]));
+    pb.push_back(Aligned64(b[i]));
+    for (int j = 0; j < sizes[i]; ++j) pb[i][j] = pa[i][j] = rng.Sample<T>();
+  }
+  k(Avx{}, pa.data());
+  k(Scalar{}, pb.data());
+  for (std::size_t i = 0; i < sizes.size(); ++i)
+    if (std::memcmp(pa[i], pb[i], sizes[i] * sizeof(T)) != 0)
+      return ::testing::AssertionFailure() << "buffer " << i << " differs";
+  return ::testing::AssertionSuccess();
 }
 
 // Bits of a mask with random zeros: runs of zeros and non-zeros, so that whole 16-pixel steps of
 // either kind occur beside mixed ones.
 inline void FillMask(GuardedImage<Tpx8u>& m, Rng& rng) {
-  for (int y = 0; y < m.Height(); ++y) {
-    int run = 0;
-    bool on = rng.Chance(0.5);
-    for (int x = 0; x < m.Width(); ++x) {
-      if (run-- <= 0) {
-        on = !on;
-        run = rng.Chance(0.5) ? rng.Int(0, 3) : rng.Int(10, 40);
-      }
-      m.At(x, y) = on ? static_cast<Tpx8u>(rng.Int(1, 255)) : 0;
-    }
-  }
+  int run = 0;
+  bool on = rng.Chance(0.5);
+  Each(m.Width(), m.Height(), [&](int x, int y) {
+    if (run-- <= 0) on = !on, run = rng.Chance(0.5) ? rng.Int(0, 3) : rng.Int(10, 40);
+    m.At(x, y) = on ? static_cast<Tpx8u>(rng.Int(1, 255)) : 0;
+  });
 }
 
 }  // namespace datatest
