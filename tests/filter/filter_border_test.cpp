@@ -3,7 +3,6 @@
 // without in-memory sides, padded and misaligned images, guard bands around the destination.
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <vector>
 
 #include "filter_model.h"
@@ -12,182 +11,101 @@ namespace {
 
 using namespace filtertest;
 
-const std::vector<TpxSize> kKernels = {{1, 1}, {2, 2}, {1, 5}, {5, 1}, {3, 3}, {5, 5}, {7, 5}, {11, 11}, {2, 3}, {4, 4}};
-const std::vector<int> kBorders = {1, 3, 6, 240, 1 | 0x10, 3 | 0x40 | 0x20, 6 | 0x80, 3 | 0x10 | 0x80, 1 | 0x70};
+const TpxSize kKernels[] = {{1, 1}, {2, 2}, {1, 5}, {5, 1}, {3, 3}, {5, 5}, {7, 5}, {11, 11}, {2, 3}, {4, 4}};
+const int kBorders[] = {1, 3, 6, 240, 1 | 0x10, 3 | 0x40 | 0x20, 6 | 0x80, 3 | 0x10 | 0x80, 1 | 0x70};
+enum Kind { kIntKernel, kFloatKernel, kFloatData };
 
-// Regions around the kernel's size: smaller, equal, one larger, and wide enough for the vector
-// routes (>= 16 pixels) with a tail.
-std::vector<TpxSize> Regions(TpxSize k) {
-  std::vector<TpxSize> out;
-  for (int w : {1, k.width, k.width + 1, 37})
-    for (int h : {1, k.height, k.height + 3})
-      if (w >= 1 && h >= 1) out.push_back({w, h});
-  return out;
+// The largest coefficient bound, from `start` down by halves, that keeps every sum of n taps
+// over samples of T below 2^24, so that float sums are exact.
+template <class T>
+int ExactBound(int start, int n) {
+  if constexpr (std::is_floating_point_v<T>) return start;  // float data: no bound needed
+  const long long maxAbs = std::max<long long>(-static_cast<long long>(std::numeric_limits<T>::lowest()), std::numeric_limits<T>::max());
+  while (start > 1 && maxAbs * start * n >= (1 << 24)) start /= 2;
+  return start;
 }
 
-// The 32f and 64f members also get a tall narrow region: their side strips are a vector wide
-// and pass through the scratch in several bands of rows.
-std::vector<TpxSize> TallToo(std::vector<TpxSize> v) {
-  v.push_back({19, 131});
-  return v;
-}
-
-// Runs one member with a prepared spec on random data and compares with `expect`.
-template <class T, int kCh, class Expect>
-void Compare(Rng& rng, Prepared& p, TpxSize k, TpxSize roi, int bt, Expect expect, const char* what) {
-  const int M = 12;
-  World<T> world(roi.width, roi.height, M, kCh, rng.Int(0, 5), rng.Int(0, 3));
-  tpxtest::FillRandom(world.img, rng, 0.15);
-  if constexpr (std::is_floating_point_v<T>) {  // keep sums finite: NaN is checked elsewhere
-    for (int y = 0; y < world.img.Height(); ++y)
-      for (int i = 0; i < world.img.RowSamples(); ++i)
-        if (!std::isfinite(world.img.Row(y)[i]) || std::abs(world.img.Row(y)[i]) > 1e6) world.img.Row(y)[i] = T(0.5);
-  }
-  GuardedImage<T> dst(roi.width, roi.height, kCh, rng.Int(0, 4), rng.Int(0, 3));
-  T value[4];
-  for (int c = 0; c < 4; ++c) value[c] = rng.template Sample<T>();
-  if constexpr (std::is_floating_point_v<T>) value[0] = T(-3.25), value[1] = T(7), value[2] = T(0.125), value[3] = T(100);
-  ASSERT_EQ(tpxOk, (Run<T, kCh>(world.Region(), world.Step(), dst.Data(), dst.Step(), roi, bt, value, p.Spec(), p.Buf())))
-      << what;
-  const Extended<T> ext(world, bt, value, k.width, k.height);
-  for (int y = 0; y < roi.height; ++y)
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < kCh; ++c) {
-        const T want = expect(ext, x, y, c);
-        const T got = dst.At(x, y, c);
-        ASSERT_EQ(0, std::memcmp(&want, &got, sizeof(T)))
-            << what << " k=" << k.width << "x" << k.height << " roi=" << roi.width << "x" << roi.height << " bt=" << bt
-            << " at " << x << "," << y << "," << c << " want " << +want << " got " << +got;
-      }
-  ASSERT_TRUE(dst.GuardsIntact()) << what;
-}
-
-// Integer kernel with a divisor 2^shift and a mode under which every route of the integer
-// kinds gives the same result: exact value / 2^shift, rounded by the mode, saturated.
+// Integer kernels with a divisor 2^shift and a mode under which every route gives the same
+// result; float kernels of multiples of 1/8 (exact sums) in every mode; for 32f and 64f the
+// sum in the sample's width, taps in the caller's order from the first product, bit-exact.
 template <class T, int kCh>
-void IntegerKernelMember(int seed) {
+void Member(Kind kind, int seed) {
   Rng rng(seed);
   for (TpxSize k : kKernels) {
     const int n = k.width * k.height;
-    for (TpxSize roi : Regions(k)) {
+    std::vector<TpxSize> regions;
+    for (int w : {1, k.width, k.width + 1, 37})  // smaller, equal, one larger, vector routes with a tail
+      for (int h : {1, k.height, k.height + 3}) regions.push_back({w, h});
+    if (kind == kFloatData) regions.push_back({19, 131});  // side strips in several bands of rows
+    for (TpxSize roi : regions) {
       Prepared p;
-      ASSERT_EQ(tpxOk, p.Size(k, roi, kDataType<T>, 7, kCh));
-      std::vector<Tpx16s> K(n);
-      const int bound = ExactBound<T>(600, n);
-      for (auto& v : K) v = static_cast<Tpx16s>(rng.Int(-bound, bound));
-      const int shift = rng.Int(0, 4);
-      const int modes[] = {1, 2, 16, 17, 18};
-      const int mode = modes[rng.Int(0, 4)];
-      const TpxStatus st = tpxiFilterBorderInit_16s(K.data(), k, 1 << shift, kDataType<T>, kCh, mode, p.Spec());
-      ASSERT_GE(st, 0);
+      ASSERT_EQ(tpxOk, p.Size(k, roi, kDataType<T>, kind == kIntKernel ? 7 : kDataType<T> == 19 ? 19 : 13, kCh));
+      std::vector<double> K(n);
+      const int bound = ExactBound<T>(kind == kIntKernel ? 600 : 40, n), shift = rng.Int(0, 4);
+      for (auto& v : K) v = kind == kIntKernel ? rng.Int(-bound, bound) : kind == kFloatKernel ? rng.Int(-bound, bound) / 8.0
+                                                                                                 : static_cast<T>(rng.Real(-2, 2));
+      const std::vector<Tpx16s> K16(K.begin(), K.end());
+      const std::vector<float> K32(K.begin(), K.end());
+      const int mode = kind == kIntKernel ? std::vector<int>{1, 2, 16, 17, 18}[rng.Int(0, 4)] : kind == kFloatKernel ? rng.Int(0, 2) : 1;
+      if (kind == kIntKernel) ASSERT_GE(tpxiFilterBorderInit_16s(K16.data(), k, 1 << shift, kDataType<T>, kCh, mode, p.Spec()), 0);
+      else if (kDataType<T> == 19) ASSERT_EQ(tpxOk, tpxiFilterBorderInit_64f(K.data(), k, 19, 1, 1, p.Spec()));
+      else ASSERT_EQ(tpxOk, tpxiFilterBorderInit_32f(K32.data(), k, kDataType<T>, kCh, mode, p.Spec()));
+      // 16u, and 16s with several channels or a thin kernel, take the float path.
+      const bool floatPath = kind == kFloatKernel || std::is_same_v<T, Tpx16u> ||
+                             (std::is_same_v<T, Tpx16s> && (kCh != 1 || k.width < 3 || k.height == 1));
       for (int bt : kBorders) {
-        Compare<T, kCh>(rng, p, k, roi, bt, [&](const Extended<T>& e, int x, int y, int c) {
-          const long double a = Correlate<T, Tpx16s, long double>(e, K, k.width, k.height, x, y, c);
-          const int m = mode & 3;
-          const long double q = a / (1 << shift);
-          // 16u, and 16s with several channels or a thin kernel, take the float path: the float
-          // table rounds symmetrically about zero.
-          const bool floatPath = std::is_same_v<T, Tpx16u> ||
-              (std::is_same_v<T, Tpx16s> && (kCh != 1 || k.width < 3 || k.height == 1));
-          if (floatPath) return Saturate<T>(RoundExact(q, m));
-          // integer rows: 0 with the accurate flag is a floor (arithmetic shift), 2 is half up
-          const long long r = (m == 0) ? static_cast<long long>(std::floor(q))
-                            : (m == 2) ? static_cast<long long>(std::floor(q + 0.5L)) : RoundExact(q, 1);
-          return Saturate<T>(r);
-        }, "int-kernel");
-      }
-    }
-  }
-}
-
-// Float kernel of multiples of 1/8 (sums exact), every mode: the table of the type.
-template <class T, int kCh>
-void FloatKernelMember(int seed) {
-  Rng rng(seed);
-  for (TpxSize k : kKernels) {
-    const int n = k.width * k.height;
-    for (TpxSize roi : Regions(k)) {
-      Prepared p;
-      ASSERT_EQ(tpxOk, p.Size(k, roi, kDataType<T>, 13, kCh));
-      std::vector<float> K(n);
-      const int bound = ExactBound<T>(40, n);
-      for (auto& v : K) v = static_cast<float>(rng.Int(-bound, bound)) / 8.0f;
-      const int mode = rng.Int(0, 2);
-      ASSERT_EQ(tpxOk, tpxiFilterBorderInit_32f(K.data(), k, kDataType<T>, kCh, mode, p.Spec()));
-      for (int bt : kBorders) {
-        Compare<T, kCh>(rng, p, k, roi, bt, [&](const Extended<T>& e, int x, int y, int c) {
-          const long double a = Correlate<T, float, long double>(e, K, k.width, k.height, x, y, c);
-          return Saturate<T>(RoundExact(a, mode));
-        }, "float-kernel");
-      }
-    }
-  }
-}
-
-// 32f and 64f: the sum in the sample's width, taps in the caller's order from the first
-// product, stored as it is (bit-exact).
-template <class T, int kCh>
-void FloatDataMember(int seed) {
-  Rng rng(seed);
-  for (TpxSize k : kKernels) {
-    const int n = k.width * k.height;
-    for (TpxSize roi : TallToo(Regions(k))) {
-      Prepared p;
-      const int kt = std::is_same_v<T, double> ? 19 : 13;
-      ASSERT_EQ(tpxOk, p.Size(k, roi, kDataType<T>, kt, kCh));
-      std::vector<T> K(n);
-      for (auto& v : K) v = static_cast<T>(rng.Real(-2, 2));
-      if constexpr (std::is_same_v<T, double>)
-        ASSERT_EQ(tpxOk, tpxiFilterBorderInit_64f(K.data(), k, 19, 1, 1, p.Spec()));
-      else
-        ASSERT_EQ(tpxOk, tpxiFilterBorderInit_32f(K.data(), k, 13, kCh, 1, p.Spec()));
-      for (int bt : kBorders) {
-        Compare<T, kCh>(rng, p, k, roi, bt, [&](const Extended<T>& e, int x, int y, int c) {
-          const int ax = (k.width - 1) >> 1, ay = (k.height - 1) >> 1;
-          T acc = 0;
-          for (int i = 0; i < k.height; ++i)
-            for (int j = 0; j < k.width; ++j) {
-              const T prod = K[i * k.width + j] * e(x - ax + j, y - ay + i, c);
-              acc = (i == 0 && j == 0) ? prod : acc + prod;
+        World<T> world(roi.width, roi.height, 12, kCh, rng.Int(0, 5), rng.Int(0, 3));
+        tpxtest::FillRandom(world.img, rng, 0.15);
+        if constexpr (std::is_floating_point_v<T>)  // keep sums finite: NaN is checked elsewhere
+          for (int y = 0; y < world.img.Height(); ++y)
+            for (int i = 0; i < world.img.RowSamples(); ++i)
+              if (!(std::abs(world.img.Row(y)[i]) <= 1e6)) world.img.Row(y)[i] = T(0.5);
+        GuardedImage<T> dst(roi.width, roi.height, kCh, rng.Int(0, 4), rng.Int(0, 3));
+        T value[4];
+        for (T& v : value) v = std::is_floating_point_v<T> ? T(rng.Int(-64, 64) / 8.0) : rng.template Sample<T>();
+        ASSERT_EQ(tpxOk, (Run<T, kCh>(world.Region(), world.Step(), dst.Data(), dst.Step(), roi, bt, value, p.Spec(), p.Buf())));
+        const Extended<T> e(world, bt, value, k.width, k.height);
+        for (int y = 0; y < roi.height; ++y)
+          for (int x = 0; x < roi.width; ++x)
+            for (int c = 0; c < kCh; ++c) {
+              T want = 0;
+              if (kind == kFloatData) {
+                for (int i = 0; i < n; ++i) {
+                  const T prod = static_cast<T>(K[i]) * e(x - ((k.width - 1) >> 1) + i % k.width, y - ((k.height - 1) >> 1) + i / k.width, c);
+                  want = i == 0 ? prod : want + prod;
+                }
+              } else {
+                const long double q = Correlate(e, K, k.width, k.height, x, y, c) / (1 << (kind == kIntKernel ? shift : 0));
+                const int m = mode & 3;  // integer rows: 0 (with the accurate flag) floors, 2 is half up
+                want = Saturate<T>(floatPath ? RoundExact(q, m) : m == 0 ? static_cast<long long>(std::floor(q))
+                                                              : m == 2 ? static_cast<long long>(std::floor(q + 0.5L)) : RoundExact(q, 1));
+              }
+              ASSERT_EQ(0, std::memcmp(&want, &dst.At(x, y, c), sizeof(T)))
+                  << "kind " << kind << " k=" << k.width << "x" << k.height << " roi=" << roi.width << "x" << roi.height
+                  << " bt=" << bt << " at " << x << "," << y << "," << c << " want " << +want << " got " << +dst.At(x, y, c);
             }
-          return acc;
-        }, "float-data");
+        ASSERT_TRUE(dst.GuardsIntact());
       }
     }
   }
 }
 
-TEST(FilterBorderModel, Integer8u) {
-  IntegerKernelMember<Tpx8u, 1>(11);
-  IntegerKernelMember<Tpx8u, 3>(12);
-  IntegerKernelMember<Tpx8u, 4>(13);
+template <class T, int... kCh>
+void Members(Kind kind, int seed) { (Member<T, kCh>(kind, seed + kCh), ...); }
+
+TEST(FilterBorderModel, IntegerKernels) {  // 16s C1 takes the integer rows; C3, C4, thin kernels and 16u the float path
+  Members<Tpx8u, 1, 3, 4>(kIntKernel, 10);
+  Members<Tpx16s, 1, 3, 4>(kIntKernel, 20);
+  Members<Tpx16u, 1, 3, 4>(kIntKernel, 30);
 }
-TEST(FilterBorderModel, Integer16s) {  // C1 takes the integer rows; C3, C4 and thin kernels the float path
-  IntegerKernelMember<Tpx16s, 1>(21);
-  IntegerKernelMember<Tpx16s, 3>(22);
-  IntegerKernelMember<Tpx16s, 4>(23);
+TEST(FilterBorderModel, FloatKernels) {
+  Members<Tpx8u, 1, 3, 4>(kFloatKernel, 40);
+  Members<Tpx16u, 1, 3, 4>(kFloatKernel, 45);
+  Members<Tpx16s, 1, 3, 4>(kFloatKernel, 50);
 }
-TEST(FilterBorderModel, Integer16uThroughFloatPath) {
-  IntegerKernelMember<Tpx16u, 1>(31);
-  IntegerKernelMember<Tpx16u, 3>(32);
-  IntegerKernelMember<Tpx16u, 4>(33);
-}
-TEST(FilterBorderModel, FloatKernel8u16u16s) {
-  FloatKernelMember<Tpx8u, 1>(41);
-  FloatKernelMember<Tpx8u, 3>(42);
-  FloatKernelMember<Tpx8u, 4>(43);
-  FloatKernelMember<Tpx16u, 1>(44);
-  FloatKernelMember<Tpx16u, 3>(45);
-  FloatKernelMember<Tpx16u, 4>(46);
-  FloatKernelMember<Tpx16s, 1>(47);
-  FloatKernelMember<Tpx16s, 3>(48);
-  FloatKernelMember<Tpx16s, 4>(49);
-}
-TEST(FilterBorderModel, Float32And64) {
-  FloatDataMember<Tpx32f, 1>(51);
-  FloatDataMember<Tpx32f, 3>(52);
-  FloatDataMember<Tpx32f, 4>(53);
-  FloatDataMember<Tpx64f, 1>(54);
+TEST(FilterBorderModel, FloatData) {
+  Members<Tpx32f, 1, 3, 4>(kFloatData, 60);
+  Members<Tpx64f, 1>(kFloatData, 65);
 }
 
 }  // namespace

@@ -2,11 +2,10 @@
 // the region, the extended read of the border rules, plain correlation in exact arithmetic,
 // and the rounding rules written from their definitions.
 #pragma once
+#include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <cstring>
 #include <limits>
-#include <algorithm>
 #include <vector>
 
 #include "support/image.h"
@@ -21,99 +20,73 @@ using tpxtest::Rng;
 // The region of W x H pixels inside a world with M real pixels on every side.
 template <class T>
 struct World {
-  int W, H, M, ch;
+  int W, H, M;
   GuardedImage<T> img;
-  World(int w, int h, int m, int c, int pad, int mis) : W(w), H(h), M(m), ch(c), img(w + 2 * m, h + 2 * m, c, pad, mis) {}
+  World(int w, int h, int m, int c, int pad, int mis) : W(w), H(h), M(m), img(w + 2 * m, h + 2 * m, c, pad, mis) {}
   T* Region() { return &img.At(M, M); }
   int Step() const { return img.Step(); }
   T At(int x, int y, int c) const { return img.At(x + M, y + M, c); }
 };
-
-inline int MirrorIndex(int i, int n) {
-  if (n == 1) return 0;
-  const int p = 2 * n - 2;
-  int m = i % p;
-  if (m < 0) m += p;
-  return m < n ? m : p - m;
-}
 
 // Reads the extended image at (x, y): real pixels inside the region and on sides flagged as
 // in memory (as far as the kernel reaches there), the border rule elsewhere.
 template <class T>
 struct Extended {
   const World<T>* w;
-  int kind;
+  int kind, x0, x1, y0, y1;  // the rectangle read from memory
   const T* value;
-  int x0, x1, y0, y1;  // the rectangle read from memory
-  Extended(const World<T>& world, int borderType, const T* v, int kw, int kh) : w(&world), kind(borderType & 15), value(v) {
+  Extended(const World<T>& world, int bt, const T* v, int kw, int kh) : w(&world), kind(bt & 15), value(v) {
     const int ax = (kw - 1) >> 1, ay = (kh - 1) >> 1;
-    x0 = (borderType & 0x40) ? -ax : 0;
-    x1 = (borderType & 0x80) ? world.W + (kw - 1 - ax) : world.W;
-    y0 = (borderType & 0x10) ? -ay : 0;
-    y1 = (borderType & 0x20) ? world.H + (kh - 1 - ay) : world.H;
+    x0 = (bt & 0x40) ? -ax : 0;
+    x1 = world.W + ((bt & 0x80) ? kw - 1 - ax : 0);
+    y0 = (bt & 0x10) ? -ay : 0;
+    y1 = world.H + ((bt & 0x20) ? kh - 1 - ay : 0);
   }
   T operator()(int x, int y, int c) const {
-    const bool in = x >= x0 && x < x1 && y >= y0 && y < y1;
-    if (in) return w->At(x, y, c);
+    if (x >= x0 && x < x1 && y >= y0 && y < y1) return w->At(x, y, c);
     if (kind == 6) return value[c];
     auto map = [&](int i, int lo, int hi) {
       if (i >= lo && i < hi) return i;
-      if (kind == 1) return i < lo ? lo : hi - 1;
-      return lo + MirrorIndex(i - lo, hi - lo);
+      if (kind == 1 || hi - lo == 1) return i < lo ? lo : hi - 1;
+      const int p = 2 * (hi - lo) - 2, m = ((i - lo) % p + p) % p;  // mirror without the edge twice
+      return lo + (m < hi - lo ? m : p - m);
     };
     return w->At(map(x, x0, x1), map(y, y0, y1), c);
   }
 };
 
 // Exact correlation sum (long double holds every 8u/16u/16s sum exactly and float products).
-template <class T, class K, class Acc>
-Acc Correlate(const Extended<T>& e, const std::vector<K>& k, int kw, int kh, int x, int y, int c) {
-  const int ax = (kw - 1) >> 1, ay = (kh - 1) >> 1;
-  Acc acc = 0;
+template <class T>
+long double Correlate(const Extended<T>& e, const std::vector<double>& k, int kw, int kh, int x, int y, int c) {
+  long double acc = 0;
   for (int i = 0; i < kh; ++i)
-    for (int j = 0; j < kw; ++j) acc += static_cast<Acc>(k[i * kw + j]) * static_cast<Acc>(e(x - ax + j, y - ay + i, c));
+    for (int j = 0; j < kw; ++j) acc += static_cast<long double>(k[i * kw + j]) * e(x - ((kw - 1) >> 1) + j, y - ((kh - 1) >> 1) + i, c);
   return acc;
 }
 
 // Rounding of an exact value to an integer: 0 toward zero, 1 half to even, 2 half away.
 inline long long RoundExact(long double v, int mode) {
-  const long double f = std::floor(v), frac = v - f;
+  const long long f = static_cast<long long>(std::floor(v));
+  const long double frac = v - f;
   if (mode == 0) return static_cast<long long>(std::trunc(v));
-  if (frac > 0.5L) return static_cast<long long>(f) + 1;
-  if (frac < 0.5L) return static_cast<long long>(f);
-  if (mode == 1) return (static_cast<long long>(f) % 2 == 0) ? static_cast<long long>(f) : static_cast<long long>(f) + 1;
-  return v >= 0 ? static_cast<long long>(f) + 1 : static_cast<long long>(f);
+  if (frac != 0.5L) return frac > 0.5L ? f + 1 : f;
+  return mode == 1 ? f + (f & 1) : (v >= 0 ? f + 1 : f);
 }
 
 template <class T>
 T Saturate(long long v) {
-  const long long lo = std::numeric_limits<T>::lowest(), hi = std::numeric_limits<T>::max();
-  return static_cast<T>(v < lo ? lo : v > hi ? hi : v);
+  return static_cast<T>(std::clamp<long long>(v, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()));
 }
 
-// The largest coefficient bound, from `start` down by halves, that keeps every sum of n taps
-// over samples of T below 2^24, so that float sums are exact.
-template <class T>
-int ExactBound(int start, int n) {
-  const long long maxAbs = std::max<long long>(-static_cast<long long>(std::numeric_limits<T>::lowest()),
-                                               std::numeric_limits<T>::max());
-  int bound = start;
-  while (bound > 1 && maxAbs * bound * n >= (1 << 24)) bound /= 2;
-  return bound;
-}
-
-// Spec and buffer for one configuration, through the public size query.
+// Spec and buffer for one configuration, through the public size query, off any alignment.
 struct Prepared {
   std::vector<unsigned char> spec, buf;
   int specSize = 0, bufSize = 0;
-  void* Spec() { return spec.data() + 5; }  // deliberately off any alignment
+  void* Spec() { return spec.data() + 5; }
   Tpx8u* Buf() { return buf.data() + 3; }
   TpxStatus Size(TpxSize k, TpxSize roi, int dt, int kt, int ch) {
     const TpxStatus st = tpxiFilterBorderGetSize(k, roi, dt, kt, ch, &specSize, &bufSize);
-    if (st >= 0) {
-      spec.assign(specSize + 5, 0xCD);
-      buf.assign(bufSize + 3, 0xCD);
-    }
+    spec.assign(specSize + 5, 0xCD), buf.assign(bufSize + 3, 0xCD);
     return st;
   }
 };
