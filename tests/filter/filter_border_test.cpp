@@ -19,9 +19,10 @@ enum Kind { kIntKernel, kFloatKernel, kFloatData };
 // over samples of T below 2^24, so that float sums are exact.
 template <class T>
 int ExactBound(int start, int n) {
-  if constexpr (std::is_floating_point_v<T>) return start;  // float data: no bound needed
-  const long long maxAbs = std::max<long long>(-static_cast<long long>(std::numeric_limits<T>::lowest()), std::numeric_limits<T>::max());
-  while (start > 1 && maxAbs * start * n >= (1 << 24)) start /= 2;
+  if constexpr (!std::is_floating_point_v<T>) {  // float data: no bound needed
+    const long long maxAbs = std::max<long long>(-static_cast<long long>(std::numeric_limits<T>::lowest()), std::numeric_limits<T>::max());
+    while (start > 1 && maxAbs * start * n >= (1 << 24)) start /= 2;
+  }
   return start;
 }
 

@@ -75,7 +75,10 @@ inline long long RoundExact(long double v, int mode) {
 
 template <class T>
 T Saturate(long long v) {
-  return static_cast<T>(std::clamp<long long>(v, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()));
+  if constexpr (std::is_floating_point_v<T>)
+    return static_cast<T>(v);
+  else
+    return static_cast<T>(std::clamp<long long>(v, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()));
 }
 
 // Spec and buffer for one configuration, through the public size query, off any alignment.
