@@ -58,8 +58,8 @@ D IntSfs(S s, int mode, int sf) {
 // Integer Scale, exactly: dMin + round_half_even((s - sMin) * dRange / sRange).
 template <class S, class D>
 D ScaleExact(S s) {
-  const __int128 sMin = std::numeric_limits<S>::lowest(), sRange = static_cast<__int128>(std::numeric_limits<S>::max()) - sMin;
-  const __int128 dMin = std::numeric_limits<D>::lowest(), dRange = static_cast<__int128>(std::numeric_limits<D>::max()) - dMin;
+  const __int128 sMin = std::numeric_limits<S>::lowest(), sRange = std::numeric_limits<S>::max() - sMin;
+  const __int128 dMin = std::numeric_limits<D>::lowest(), dRange = std::numeric_limits<D>::max() - dMin;
   const __int128 num = (static_cast<__int128>(s) - sMin) * dRange;
   __int128 q = num / sRange;
   const __int128 r2 = 2 * (num % sRange);

@@ -90,7 +90,8 @@ void IntSfsTwins(const std::string& name, Rng& rng) {
   ForEachKind([&](auto k, const char* kind) {
     for (int sf : {1, 2, 5, 8, 15, kSfsZeroLimit<S> - 1})
       if (sf < kSfsZeroLimit<S>)
-        Twin(name + kind + " sf " + std::to_string(sf), ShiftRightOp<S, D, decltype(k)::value>(sf), IntValues<S, D>(sf), rng);
+        Twin(name + kind + " sf " + std::to_string(sf), ShiftRightOp<S, D, decltype(k)::value>(sf),
+             IntValues<S, D>(sf), rng);
   });
   for (int k = 1; k <= -kSfsNegLimit<D>; k += (k < 3 ? 1 : 4))
     Twin(name + " shl " + std::to_string(k), ShiftLeftOp<S, D>{k}, IntValues<S, D>(-k), rng);

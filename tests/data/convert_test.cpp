@@ -70,7 +70,8 @@ TEST(ConvertPlain, EveryMemberMatchesTheModel) {
 // One float member for every rounding mode and scale factor given, the caller's rounding control
 // each of the four directions (with more than four factors, the others run sf 0 only).
 template <class F, class D, Layout kL, class Call>
-void FloatCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes, Rng& rng) {
+void FloatCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes,
+               Rng& rng) {
   CsrGuard g;
   const auto all = tpxtest::Shapes(kV), thin = Thin(all, 6);
   for (unsigned caller : cvttest::kCallerModes) {
@@ -80,8 +81,8 @@ void FloatCase(const std::string& name, Call call, const std::vector<int>& sfs, 
         const bool wide = caller == _MM_ROUND_NEAREST && (mode == 1 || mode == 2) && (sf == 0 || sf == 3);
         const auto c = [&](const F* s, int ss, D* d, int ds, TpxSize r) { return call(s, ss, d, ds, r, mode, sf); };
         const auto m = [&](F x) { return cvtmodel::FloatRule<F, D>(x, mode, sf); };
-        Sweep<F, D>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf) + " caller " + std::to_string(caller),
-                    tpx::Stride(kL), kL == Layout::AC4, wide ? all : thin, FloatValues<F, D>(sf), c, m, rng);
+        const std::string where = " mode " + std::to_string(mode) + " sf " + std::to_string(sf);
+        Sweep<F, D>(name + where + " caller " + std::to_string(caller), tpx::Stride(kL), kL == Layout::AC4, wide ? all : thin, FloatValues<F, D>(sf), c, m, rng);
         if (caller != _MM_ROUND_NEAREST && sfs.size() > 4) break;
       }
   }
@@ -91,7 +92,8 @@ TEST(ConvertFloat, EveryMemberMatchesTheModel) {
   Rng rng(2);
 #define TPX_T_ROUND(S, D, L)                                                                                  \
   FloatCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", [](const Tpx##S* s, int ss, Tpx##D* d, int ds, TpxSize r, \
-      int mode, int) { return tpxiConvert_##S##D##_##L##R(s, ss, d, ds, r, mode); }, {0}, {0, 1, 2, 3, -1, 16, 17}, rng);
+      int mode, int) { return tpxiConvert_##S##D##_##L##R(s, ss, d, ds, r, mode); },                         \
+      {0}, {0, 1, 2, 3, -1, 16, 17}, rng);
 #define TPX_T_ROUND_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_ROUND, S, D)
   TPX_CONVERT_ROUND_4L(TPX_T_ROUND_ALL)
 #define TPX_T_FSFS(S, D)                                                                                     \
@@ -148,7 +150,8 @@ TEST(ConvertFloat, WorkedValues) {
   ASSERT_EQ(tpxiConvert_32f32s_C1RSfs(ws, 20, s32, 20, TpxSize{5, 1}, 1, 0), tpxOk);
   ASSERT_EQ(tpxiConvert_32f32u_C1RSfs(wu, 20, u32, 20, TpxSize{5, 1}, 2, 0), tpxOk);
   EXPECT_EQ(std::vector<Tpx32s>(s32, s32 + 5), (std::vector<Tpx32s>{INT_MAX, 2147483520, INT_MIN, INT_MIN, INT_MAX}));
-  EXPECT_EQ(std::vector<Tpx32u>(u32, u32 + 5), (std::vector<Tpx32u>{0xFFFFFFFFu, 4294967040u, 0x80000000u, 0, 0xFFFFFFFFu}));
+  EXPECT_EQ(std::vector<Tpx32u>(u32, u32 + 5),
+            (std::vector<Tpx32u>{0xFFFFFFFFu, 4294967040u, 0x80000000u, 0, 0xFFFFFFFFu}));
 }
 
 TEST(FloatToInt, MultiplierIsRepeatedHalvingOrDoubling) {
@@ -248,11 +251,6 @@ TEST(ConvertStreaming, PlainAndStreamedStoresAgree) {
   RowStreamCase<Tpx32s, Tpx16s>(rng);
   RowStreamCase<Tpx32s, Tpx16u>(rng);
   RowStreamCase<Tpx8u, Tpx8s>(rng);
-  // The decision itself: two lines of row, success of the query, total against the cache.
-  EXPECT_FALSE(tpx::cvt::ChooseStreamingRows(127, 1 << 20, {SmallCache, Line64}));
-  EXPECT_TRUE(tpx::cvt::ChooseStreamingRows(128, 1024, {SmallCache, Line64}));
-  EXPECT_FALSE(tpx::cvt::ChooseStreamingRows(128, 1023, {SmallCache, Line64}));
-  EXPECT_FALSE(tpx::cvt::ChooseStreamingRows(1 << 20, 1 << 30, {NoCache, Line64}));
 }
 
 }  // namespace

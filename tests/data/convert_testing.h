@@ -42,7 +42,8 @@ void AddNear(Values<S>& v, std::vector<long double> bases, int e) {
     for (long double off : {-1.0L, -0.5L, 0.0L, 0.5L, 1.0L}) {
       const long double c = std::ldexp(b + off, e);
       for (long double x : {c - 1, c, c + 1})
-        if (std::is_floating_point_v<S> || (x >= std::numeric_limits<S>::lowest() && x <= std::numeric_limits<S>::max()))
+        if (std::is_floating_point_v<S> || (x >= std::numeric_limits<S>::lowest() &&
+                                            x <= std::numeric_limits<S>::max()))
           v.special.push_back(static_cast<S>(x));
     }
 }
@@ -59,7 +60,8 @@ Values<S> IntValues(int sf = 0) {
       AddNear<S, S>(v, {std::trunc(std::ldexp(static_cast<long double>(b), sf))}, 0);
   v.random = [e](Rng& r) {  // half near the scaled range of D, on ties half the time
     if (r.Chance(0.5) || e == 0) return r.Sample<S>();
-    const long double c = std::ldexp(r.Int(-300, 300) + (r.Chance(0.5) ? 0.5L : 0.0L), e) + (r.Chance(0.5) ? 0 : r.Int(-3, 3));
+    const long double c =
+        std::ldexp(r.Int(-300, 300) + (r.Chance(0.5) ? 0.5L : 0.0L), e) + (r.Chance(0.5) ? 0 : r.Int(-3, 3));
     return static_cast<S>(std::fmin(std::fmax(c, std::numeric_limits<S>::lowest()), std::numeric_limits<S>::max()));
   };
   return v;
@@ -116,7 +118,10 @@ void Sweep(const std::string& name, int channels, bool ac4, const std::vector<tp
     GuardedImage<S> src(sh.width, sh.height, channels, sh.padSamples, sh.misalign);
     GuardedImage<D> dst(sh.width, sh.height, channels, (sh.padSamples * 3) % 19, (sh.misalign + 1) % 4);
     for (int y = 0; y < sh.height; ++y)
-      for (int i = 0; i < dst.RowSamples(); ++i) src.Row(y)[i] = values(rng), dst.Row(y)[i] = static_cast<D>(rng.Int(0, 100));
+      for (int i = 0; i < dst.RowSamples(); ++i) {
+        src.Row(y)[i] = values(rng);
+        dst.Row(y)[i] = static_cast<D>(rng.Int(0, 100));
+      }
     const std::vector<D> before = dst.Samples();
     const unsigned csr = Control();
     const TpxStatus st = call(src.Data(), src.Step(), dst.Data(), dst.Step(), TpxSize{sh.width, sh.height});
@@ -125,7 +130,8 @@ void Sweep(const std::string& name, int channels, bool ac4, const std::vector<tp
     for (int y = 0; y < sh.height; ++y)
       for (int i = 0; i < dst.RowSamples(); ++i) {
         const D got = dst.Row(y)[i];
-        const D want = ac4 && i % 4 == 3 ? before[static_cast<std::size_t>(y) * dst.RowSamples() + i] : model(src.Row(y)[i]);
+        const std::size_t k = static_cast<std::size_t>(y) * dst.RowSamples() + i;
+        const D want = ac4 && i % 4 == 3 ? before[k] : model(src.Row(y)[i]);
         ASSERT_TRUE(Same(got, want)) << name << " w=" << sh.width << " h=" << sh.height << " at (" << i << "," << y
                                      << ") src=" << +src.Row(y)[i] << " got=" << +got << " want=" << +want;
       }
