@@ -20,13 +20,11 @@ namespace {
 using namespace tpx::cvt;
 using cvttest::FloatValues;
 using cvttest::IntValues;
-using cvttest::Values;
 using tpx::Isa;
 using tpx::RoundKind;
 using tpxtest::Rng;
 
-// A row of exactly n samples (the allocation ends with it), offset by `mis` samples from the
-// allocation's start, which is itself 64-byte aligned by operator new[] of this size or not.
+// A row of exactly n samples (the allocation ends with it), `mis` samples into the allocation.
 template <class T>
 struct ExactRow {
   ExactRow(int n, int mis) : buf(new T[static_cast<std::size_t>(n + mis)]), p(buf.get() + mis) {}
@@ -35,14 +33,11 @@ struct ExactRow {
 };
 
 template <class Op>
-void Twin(const std::string& name, const Op& op, const Values<typename Op::Src>& values, Rng& rng) {
+void Twin(const std::string& name, const Op& op, const cvttest::Values<typename Op::Src>& values, Rng& rng) {
   using S = typename Op::Src;
   using D = typename Op::Dst;
-  std::vector<int> lengths;
+  std::vector<int> lengths = {64, 97, 195, 260, 1001};  // groups of four blocks, blocks after one, long rows
   for (int n = 0; n <= 3 * 16 + 3; ++n) lengths.push_back(n);
-  // The vector loop takes blocks in groups of up to four (64 samples): a group, blocks after it
-  // and a tail, three groups and a tail, and long rows.
-  for (int n : {64, 97, 195, 260, 1001}) lengths.push_back(n);
   int k = 0;
   for (int n : lengths)
     for (int mis : {0, 1, 3}) {
@@ -56,78 +51,63 @@ void Twin(const std::string& name, const Op& op, const Values<typename Op::Src>&
       _mm_sfence();
       ASSERT_EQ(std::memcmp(ref.p, avx.p, sizeof(D) * n), 0) << name << " n=" << n << " mis=" << mis;
       ASSERT_EQ(std::memcmp(ref.p, stream.p, sizeof(D) * n), 0) << name << " stream n=" << n << " mis=" << mis;
-      if (n % 4 == 0 && sizeof(D) <= 4) {  // AC4 (members up to 4-byte samples): fourth sample kept
-        ExactRow<D> a(n, dmis), b(n, 0);
-        for (int i = 0; i < n; ++i) a.p[i] = b.p[i] = static_cast<D>(rng.Int(0, 99));
-        ConvertRowAc4<Isa::kScalar>(src.p, b.p, n / 4, op);
-        ConvertRowAc4<Isa::kAvx>(src.p, a.p, n / 4, op);
-        ASSERT_EQ(std::memcmp(a.p, b.p, sizeof(D) * n), 0) << name << " AC4 n=" << n;
-        for (int i = 0; i < n; ++i) {
-          const D want = i % 4 == 3 ? b.p[i] : ref.p[i];
-          ASSERT_EQ(std::memcmp(&a.p[i], &want, sizeof(D)), 0) << name << " AC4 sample " << i;
-        }
-      }
+      if (n % 4 != 0 || sizeof(D) > 4) continue;  // AC4 (up to 4-byte samples): the fourth sample kept
+      ExactRow<D> a(n, dmis), b(n, 0);
+      for (int i = 0; i < n; ++i) a.p[i] = b.p[i] = static_cast<D>(rng.Int(0, 99));
+      const std::vector<D> before(b.p, b.p + n);
+      ConvertRowAc4<Isa::kScalar>(src.p, b.p, n / 4, op);
+      ConvertRowAc4<Isa::kAvx>(src.p, a.p, n / 4, op);
+      ASSERT_EQ(std::memcmp(a.p, b.p, sizeof(D) * n), 0) << name << " AC4 n=" << n;
+      for (int i = 0; i < n; ++i)
+        ASSERT_TRUE(cvttest::Same(a.p[i], i % 4 == 3 ? before[i] : ref.p[i])) << name << " AC4 sample " << i;
     }
 }
 
-template <RoundKind kR>
-const char* KindName() {
-  return kR == RoundKind::kZero ? " zero" : kR == RoundKind::kNearest ? " nearest" : " away";
-}
-
-template <class F, class D, RoundKind kR>
-void FloatTwins(const std::string& name, Rng& rng) {
-  const tpx::FloatToIntScope scope(kR);
-  Twin(name + KindName<kR>(), FloatOp<F, D, kR, false>{}, FloatValues<F, D>(), rng);
-  for (int sf : {3, -5, 200, -2000}) {
-    FloatOp<F, D, kR, true> op;
-    op.m = static_cast<F>(std::is_same_v<F, float> ? tpx::ScaleMultiplier32f(sf) : tpx::ScaleMultiplier64f(sf));
-    Twin(name + KindName<kR>() + " sf " + std::to_string(sf), op, FloatValues<F, D>(sf), rng);
-  }
+// Calls f(kind constant, name suffix) for each of the three rounding kinds.
+template <class F>
+void ForEachKind(F&& f) {
+  tpx::WithRoundKind(RoundKind::kZero, [&](auto k) { f(k, " zero"); });
+  tpx::WithRoundKind(RoundKind::kNearest, [&](auto k) { f(k, " nearest"); });
+  tpx::WithRoundKind(RoundKind::kHalfAway, [&](auto k) { f(k, " away"); });
 }
 
 template <class F, class D>
-void FloatTwinsAllKinds(const std::string& name, Rng& rng) {
-  FloatTwins<F, D, RoundKind::kZero>(name, rng);
-  FloatTwins<F, D, RoundKind::kNearest>(name, rng);
-  FloatTwins<F, D, RoundKind::kHalfAway>(name, rng);
-}
-
-TEST(ConvertRows, CastTwins) {
-  Rng rng(11);
-#define TPX_T_CAST(S, D) Twin(#S #D, CastOp<Tpx##S, Tpx##D>{}, IntValues<Tpx##S, Tpx##D>(), rng);
-  TPX_CONVERT_PLAIN_4L(TPX_T_CAST)
-  TPX_CONVERT_PLAIN_C1(TPX_T_CAST)
-  TPX_CONVERT_RS(TPX_T_CAST)
-  TPX_CONVERT_INT_SFS(TPX_T_CAST)
-}
-
-TEST(ConvertRows, FloatRuleTwins) {
-  Rng rng(12);
-#define TPX_T_FLOAT(S, D) FloatTwinsAllKinds<Tpx##S, Tpx##D>(#S #D, rng);
-  TPX_CONVERT_FLOAT_SFS(TPX_T_FLOAT)
-}
-
-template <class S, class D, RoundKind kR>
-void ShiftRightTwins(const std::string& name, Rng& rng) {
-  for (int sf : {1, 2, 5, 8, 15, kSfsZeroLimit<S> - 1})
-    if (sf < kSfsZeroLimit<S>)
-      Twin(name + KindName<kR>() + " sf " + std::to_string(sf), ShiftRightOp<S, D, kR>(sf), IntValues<S, D>(sf), rng);
+void FloatTwins(const std::string& name, Rng& rng) {
+  ForEachKind([&](auto k, const char* kind) {
+    constexpr RoundKind kR = decltype(k)::value;
+    const tpx::FloatToIntScope scope(kR);
+    Twin(name + kind, FloatOp<F, D, kR, false>{}, FloatValues<F, D>(), rng);
+    for (int sf : {3, -5, 200, -2000}) {
+      FloatOp<F, D, kR, true> op;
+      op.m = static_cast<F>(std::is_same_v<F, float> ? tpx::ScaleMultiplier32f(sf) : tpx::ScaleMultiplier64f(sf));
+      Twin(name + kind + " sf " + std::to_string(sf), op, FloatValues<F, D>(sf), rng);
+    }
+  });
 }
 
 template <class S, class D>
 void IntSfsTwins(const std::string& name, Rng& rng) {
-  ShiftRightTwins<S, D, RoundKind::kZero>(name, rng);
-  ShiftRightTwins<S, D, RoundKind::kNearest>(name, rng);
-  ShiftRightTwins<S, D, RoundKind::kHalfAway>(name, rng);
+  ForEachKind([&](auto k, const char* kind) {
+    for (int sf : {1, 2, 5, 8, 15, kSfsZeroLimit<S> - 1})
+      if (sf < kSfsZeroLimit<S>)
+        Twin(name + kind + " sf " + std::to_string(sf), ShiftRightOp<S, D, decltype(k)::value>(sf),
+             IntValues<S, D>(sf), rng);
+  });
   for (int k = 1; k <= -kSfsNegLimit<D>; k += (k < 3 ? 1 : 4))
     Twin(name + " shl " + std::to_string(k), ShiftLeftOp<S, D>{k}, IntValues<S, D>(-k), rng);
   Twin(name + " shl max", ShiftLeftOp<S, D>{-kSfsNegLimit<D>}, IntValues<S, D>(kSfsNegLimit<D>), rng);
   Twin(name + " sign", SignOp<S, D>{}, IntValues<S, D>(), rng);
 }
 
-TEST(ConvertRows, ScaledIntegerTwins) {
-  Rng rng(13);
+TEST(ConvertRows, EveryOpMatchesItsScalarTwin) {
+  Rng rng(11);
+#define TPX_T_CAST(S, D) Twin(#S #D, CastOp<Tpx##S, Tpx##D>{}, IntValues<Tpx##S, Tpx##D>(), rng);
+  TPX_CONVERT_PLAIN_4L(TPX_T_CAST)
+  TPX_CONVERT_PLAIN_C1(TPX_T_CAST)
+  TPX_CONVERT_RS(TPX_T_CAST)
+  TPX_CONVERT_INT_SFS(TPX_T_CAST)
+#define TPX_T_FLOAT(S, D) FloatTwins<Tpx##S, Tpx##D>(#S #D, rng);
+  TPX_CONVERT_FLOAT_SFS(TPX_T_FLOAT)
 #define TPX_T_ISFS(S, D) IntSfsTwins<Tpx##S, Tpx##D>(#S #D, rng);
   TPX_CONVERT_INT_SFS(TPX_T_ISFS)
 }
