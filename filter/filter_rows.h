@@ -190,10 +190,11 @@ inline bool RingFits(const Window& win, int ch) {
   return win.kh + 1 <= kRingRows && (win.kw - 1) * ch <= kRingReach;
 }
 
-// `pass(v, two, ring, y, tileStart, o)`: sums of block o (within the tile) of destination
-// row y (and y + 1 when `two`), ring(i) giving the converted source row of kernel row i.
-template <class T, int kCh, class Pass>
-void ConvertedRowPasses(const T* src, std::ptrdiff_t step, int n, int h, const Window& win, Pass&& pass) {
+// Float sums of kernel k over source rows converted once into a ring, two destination rows a
+// pass; `store(d, acc)` finishes and writes each vector of eight sums.
+template <class T, int kCh, class Store>
+void ConvertedRowSums(const T* src, std::ptrdiff_t step, T* dst, std::ptrdiff_t dstStep, int n, int h,
+                      const Window& win, const KernelView<float>& k, Store&& store) {
   alignas(32) float ring[kRingFloats];
   const int left = win.ax * kCh, reach = (win.kw - 1) * kCh, slots = win.kh + 1;
   const int pitch = (kRingFloats / slots) & ~7, widest = pitch - reach;  // widest >= 8 by RingFits
@@ -218,9 +219,22 @@ void ConvertedRowPasses(const T* src, std::ptrdiff_t step, int n, int h, const W
       const bool two = y + 1 < h;
       for (const int last = y - win.ay + win.kh - (two ? 0 : 1); next <= last; ++next) convert(next);
       auto row = [&](int i) -> const float* { return ring + (y + i) % slots * pitch; };
+      auto sums = [&](auto v, auto both, int o) {
+        constexpr int kV = decltype(v)::value;
+        __m256 a0[kV] = {}, a1[kV] = {};
+        RowPairSumsAnyWidth<kCh, kV, decltype(both)::value>(row, o, win, k, a0, a1);
+        T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
+        #pragma GCC unroll 8
+        for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
+        if constexpr (decltype(both)::value) {
+          T* d1 = Advance(d0, dstStep);
+          #pragma GCC unroll 8
+          for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
+        }
+      };
       auto block = [&](auto v, int o) {
-        if (two) pass(v, std::true_type{}, row, y, o0, o);
-        else pass(v, std::false_type{}, row, y, o0, o);
+        if (two) sums(v, std::true_type{}, o);
+        else sums(v, std::false_type{}, o);
       };
       ForEachVectorBlock<4, 8>(tw, 0, block);
     }
@@ -663,19 +677,7 @@ void IntRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t dstSte
             SatStore8(d, f.template Apply<kF>(_mm256_castsi256_si128(a)), f.template Apply<kF>(_mm256_extractf128_si256(a, 1)));
           }
         };
-        ConvertedRowPasses<T, kCh>(src, srcStep, n, h, p.win, [&](auto v, auto two, auto&& row, int y, int o0, int o) {
-          constexpr int kV = decltype(v)::value;
-          __m256 a0[kV] = {}, a1[kV] = {};
-          RowPairSumsAnyWidth<kCh, kV, decltype(two)::value>(row, o, p.win, k, a0, a1);
-          T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
-          #pragma GCC unroll 8
-          for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
-          if constexpr (decltype(two)::value) {
-            T* d1 = Advance(d0, dstStep);
-            #pragma GCC unroll 8
-            for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
-          }
-        });
+        ConvertedRowSums<T, kCh>(src, srcStep, dst, dstStep, n, h, p.win, k, store);
       };
       if (f.variant == F::kShiftEven) run(std::integral_constant<int, F::kShiftEven>{});
       else if (f.variant == F::kTabShiftEven) run(std::integral_constant<int, F::kTabShiftEven>{});
@@ -848,19 +850,7 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
                 FloatToSample4<T>(_mm256_extractf128_ps(a, 1), p.mode));
     };
     if (n >= 8 && RingFits(p.win, kCh)) {
-      ConvertedRowPasses<T, kCh>(src, srcStep, n, h, p.win, [&](auto v, auto two, auto&& row, int y, int o0, int o) {
-        constexpr int kV = decltype(v)::value;
-        __m256 a0[kV] = {}, a1[kV] = {};
-        RowPairSumsAnyWidth<kCh, kV, decltype(two)::value>(row, o, p.win, p.k, a0, a1);
-        T* d0 = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0 + o;
-        #pragma GCC unroll 8
-        for (int q = 0; q < kV; ++q) store(d0 + 8 * q, a0[q]);
-        if constexpr (decltype(two)::value) {
-          T* d1 = Advance(d0, dstStep);
-          #pragma GCC unroll 8
-          for (int q = 0; q < kV; ++q) store(d1 + 8 * q, a1[q]);
-        }
-      });
+      ConvertedRowSums<T, kCh>(src, srcStep, dst, dstStep, n, h, p.win, p.k, store);
       return;
     }
   }
