@@ -23,6 +23,8 @@ using tpxtest::Shape;
 // The sample types of the family, for member tables and typed tests.
 #define DATATEST_TYPES(X) X(8u) X(16u) X(16s) X(32s) X(32f)
 using AllTypes = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
+// One family's members of one type in the layouts C1, C3, C4, AC4: DATATEST_L4(tpxiCopy, 8u, MR).
+#define DATATEST_L4(P, TT, S) {P##_##TT##_C1##S, P##_##TT##_C3##S, P##_##TT##_C4##S, P##_##TT##_AC4##S}
 #define DATATEST_TYPED_SUITE(Name)                 \
   template <class T>                               \
   class Name : public ::testing::Test {};          \

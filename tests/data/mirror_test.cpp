@@ -18,10 +18,8 @@ struct Api;
 #define TPX_MIRROR_API(TT)                                                                                      \
   template <>                                                                                                   \
   struct Api<Tpx##TT> {                                                                                         \
-    static constexpr decltype(&tpxiMirror_##TT##_C1R) out[4] = {tpxiMirror_##TT##_C1R, tpxiMirror_##TT##_C3R, \
-                                                                tpxiMirror_##TT##_C4R, tpxiMirror_##TT##_AC4R}; \
-    static constexpr decltype(&tpxiMirror_##TT##_C1IR) in[4] = {                                                \
-        tpxiMirror_##TT##_C1IR, tpxiMirror_##TT##_C3IR, tpxiMirror_##TT##_C4IR, tpxiMirror_##TT##_AC4IR};       \
+    static constexpr decltype(&tpxiMirror_##TT##_C1R) out[4] = DATATEST_L4(tpxiMirror, TT, R);                 \
+    static constexpr decltype(&tpxiMirror_##TT##_C1IR) in[4] = DATATEST_L4(tpxiMirror, TT, IR);                \
   };
 DATATEST_TYPES(TPX_MIRROR_API)
 
@@ -109,7 +107,7 @@ TEST(MirrorStreaming, EqualsPlainStores) {
 // Reversal out of place, a row pair in place and as two rows, and the row swap: a difference left
 // by any of them survives the others.
 template <class T, tpx::Layout kL>
-void RowTwins(Rng& rng) {
+void RowTwin(Rng& rng) {
   constexpr int S = tpx::Stride(kL);
   for (int w = 0; w <= 3 * 16 + 3; ++w)
     ASSERT_TRUE(Twin<T>(rng, {w * S + 2, w * S + 2, w * S + 2}, [&](auto isa, T* const* b) {
@@ -119,20 +117,14 @@ void RowTwins(Rng& rng) {
       tpx::SwapRows<isa, T, kL>(b[1], b[2], w);
     })) << "w=" << w;
 }
+template <class T, tpx::Layout... kL>
+void RowTwins(Rng& rng) { (RowTwin<T, kL>(rng), ...); }
 
 TEST(MirrorKernels, AvxEqualsScalar) {
   Rng rng(53);
-  using tpx::Layout;
-  RowTwins<Tpx8u, Layout::C1>(rng);
-  RowTwins<Tpx8u, Layout::C3>(rng);
-  RowTwins<Tpx8u, Layout::C4>(rng);
-  RowTwins<Tpx8u, Layout::AC4>(rng);
-  RowTwins<Tpx16s, Layout::C1>(rng);
-  RowTwins<Tpx16u, Layout::C3>(rng);
-  RowTwins<Tpx16u, Layout::AC4>(rng);
-  RowTwins<Tpx32f, Layout::C3>(rng);
-  RowTwins<Tpx32s, Layout::C4>(rng);
-  RowTwins<Tpx32f, Layout::AC4>(rng);
+  using L = tpx::Layout;
+  RowTwins<Tpx8u, L::C1, L::C3, L::C4, L::AC4>(rng), RowTwins<Tpx16s, L::C1>(rng), RowTwins<Tpx16u, L::C3, L::AC4>(rng);
+  RowTwins<Tpx32f, L::C3, L::AC4>(rng), RowTwins<Tpx32s, L::C4>(rng);
 }
 
 #ifdef TPX_HAVE_OPENCV

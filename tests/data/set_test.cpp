@@ -101,8 +101,7 @@ void FillStreamCase(int w, int h, int pad, int mis) {
 }
 
 TEST(SetFill, StreamingEqualsPlain) {
-  FillStreamCase<Tpx8u, tpx::Layout::C4>(700, 300, 0, 1);
-  FillStreamCase<Tpx16u, tpx::Layout::C3>(513, 345, 3, 2);
+  FillStreamCase<Tpx8u, tpx::Layout::C4>(700, 300, 0, 1), FillStreamCase<Tpx16u, tpx::Layout::C3>(513, 345, 3, 2);
   FillStreamCase<Tpx32f, tpx::Layout::C1>(1001, 600, 1, 1);
 }
 

@@ -15,13 +15,12 @@ using namespace datatest;  // NOLINT
 
 template <class T>
 struct Api;
+#define TPX_T3(TT, S) {tpxiTranspose_##TT##_C1##S, tpxiTranspose_##TT##_C3##S, tpxiTranspose_##TT##_C4##S}
 #define TPX_TRANSPOSE_API(TT)                                                                             \
   template <>                                                                                             \
   struct Api<Tpx##TT> {                                                                                   \
-    static constexpr decltype(&tpxiTranspose_##TT##_C1R) out[3] = {                                       \
-        tpxiTranspose_##TT##_C1R, tpxiTranspose_##TT##_C3R, tpxiTranspose_##TT##_C4R};                    \
-    static constexpr decltype(&tpxiTranspose_##TT##_C1IR) in[3] = {                                       \
-        tpxiTranspose_##TT##_C1IR, tpxiTranspose_##TT##_C3IR, tpxiTranspose_##TT##_C4IR};                 \
+    static constexpr decltype(&tpxiTranspose_##TT##_C1R) out[3] = TPX_T3(TT, R);                          \
+    static constexpr decltype(&tpxiTranspose_##TT##_C1IR) in[3] = TPX_T3(TT, IR);                         \
   };
 DATATEST_TYPES(TPX_TRANSPOSE_API)
 
@@ -121,13 +120,8 @@ void LargeCase(int w, int h) {
 }
 
 TEST(Transpose, LargeImagePathEqualsTiles) {
-  LargeCase<1>(1088, 128);
-  LargeCase<2>(1088, 64);
-  LargeCase<3>(1088, 64);
-  LargeCase<4>(1152, 128);
-  LargeCase<8>(1088, 64);
-  LargeCase<12>(1088, 64);
-  LargeCase<16>(1088, 64);
+  LargeCase<1>(1088, 128), LargeCase<2>(1088, 64), LargeCase<3>(1088, 64), LargeCase<4>(1152, 128);
+  LargeCase<8>(1088, 64), LargeCase<12>(1088, 64), LargeCase<16>(1088, 64);
 }
 
 template <int kE, bool kRev, int kA>
@@ -142,16 +136,9 @@ void TileTwin(Rng& rng) {
 
 TEST(Transpose, TileKernelAvxEqualsScalar) {
   Rng rng(44);
-  TileTwin<1, false, 0>(rng);
-  TileTwin<1, true, 0>(rng);
-  TileTwin<2, false, 0>(rng);
-  TileTwin<2, true, 0>(rng);
-  TileTwin<4, false, 0>(rng);
-  TileTwin<4, true, 1>(rng);
-  TileTwin<8, true, 0>(rng);
-  TileTwin<8, false, 2>(rng);
-  TileTwin<3, true, 0>(rng);
-  TileTwin<16, false, 4>(rng);
+  TileTwin<1, false, 0>(rng), TileTwin<1, true, 0>(rng), TileTwin<2, false, 0>(rng), TileTwin<2, true, 0>(rng);
+  TileTwin<4, false, 0>(rng), TileTwin<4, true, 1>(rng), TileTwin<8, true, 0>(rng), TileTwin<8, false, 2>(rng);
+  TileTwin<3, true, 0>(rng), TileTwin<16, false, 4>(rng);
 }
 
 #ifdef TPX_HAVE_OPENCV
