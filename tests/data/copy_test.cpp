@@ -38,22 +38,26 @@ DATATEST_TYPES(TPX_COPY_API)
 
 DATATEST_TYPED_SUITE(CopyTest);
 
-TYPED_TEST(CopyTest, PlainAndMaskedEveryLayout) {
+// Forms: plain, masked, the _L twin with small steps (narrowed to the 32-bit export) and with steps
+// past 0x7ffffffe, which only a single row may have (walked as it is).
+TYPED_TEST(CopyTest, PlainMaskedAndLongEveryLayout) {
   using T = TypeParam;
   Rng rng(101);
   for (int l = 0; l < 4; ++l) {
     const int ch = kLayoutChannels[l];
     std::unique_ptr<GuardedImage<Tpx8u>> mask;
-    for (bool masked : {false, true})
-      Sweep<T>(tpxtest::Shapes(masked ? 16 : Vec<T>()), ch, ch, rng,
+    for (int form = 0; form < 4; ++form)
+      Sweep<T>(form == 3 ? std::vector<Shape>{{77, 1, 0, 0}, {5, 1, 3, 1}} : tpxtest::Shapes(form == 1 ? 16 : Vec<T>()), ch, ch, rng,
           [&](GuardedImage<T>& s, GuardedImage<T>& d) {
-            if (!masked) return Api<T>::plain[l](s.Data(), s.Step(), d.Data(), d.Step(), d.Size());
+            const bool wide = form == 3;
+            if (form >= 2) return Api<T>::twin[l](s.Data(), wide ? 0x80000000LL : s.Step(), d.Data(), wide ? -0x90000000LL : d.Step(), TpxSizeL{d.Width(), d.Height()});
+            if (form == 0) return Api<T>::plain[l](s.Data(), s.Step(), d.Data(), d.Step(), d.Size());
             mask = std::make_unique<GuardedImage<Tpx8u>>(s.Width(), s.Height(), 1, rng.Int(0, 9), rng.Int(0, 5));
             FillMask(*mask, rng);
             return Api<T>::masked[l](s.Data(), s.Step(), d.Data(), d.Step(), d.Size(), mask->Data(), mask->Step());
           },
           [&](const GuardedImage<T>& s, GuardedImage<T>& want, int x, int y) {
-            if (!masked || mask->At(x, y))
+            if (form != 1 || mask->At(x, y))
               for (int c = 0; c < kLayoutWritten[l]; ++c) want.At(x, y, c) = s.At(x, y, c);
           });
   }
@@ -123,6 +127,9 @@ TYPED_TEST(CopyTest, CheckOrderPointersThenSizeNoStep) {
     EXPECT_EQ(tpxOk, Api<T>::plain[l](buf, 0, buf + 8, -7, one));  // no step check at all
     EXPECT_EQ(tpxErrNullPtr, Api<T>::masked[l](buf, 4, buf + 8, 4, empty, nullptr, 1));
     EXPECT_EQ(tpxErrSize, Api<T>::masked[l](buf, 4, buf + 8, 4, empty, m, 1));
+    EXPECT_EQ(tpxErrSize, Api<T>::twin[l](buf, 8, buf + 8, 8, TpxSizeL{0, 5}));
+    EXPECT_EQ(tpxOk, Api<T>::twin[l](buf, 0x7fffffffLL, buf + 8, 8, TpxSizeL{0, 5}));
+    EXPECT_EQ(tpxErrNullPtr, Api<T>::twin[l](nullptr, 0x7fffffffLL, buf + 8, 8, TpxSizeL{3, 1}));
   }
   T* planes[4] = {buf, buf + 1, nullptr, buf + 3};
   EXPECT_EQ(tpxErrNullPtr, Api<T>::c3p3(buf, 12, planes, 4, empty));  // a null plane counts among the pointers
@@ -133,28 +140,6 @@ TYPED_TEST(CopyTest, CheckOrderPointersThenSizeNoStep) {
   EXPECT_EQ(tpxErrNullPtr, Api<T>::c3cr(buf, 4, nullptr, 4, empty));
   EXPECT_EQ(tpxErrSize, Api<T>::c1c4(buf, 4, buf, 4, TpxSize{-1, 3}));
   if constexpr (std::is_same_v<T, Tpx8u>) EXPECT_EQ(tpxErrNullPtr, tpxiDup_8u_C1C3R(nullptr, 1, nullptr, 1, TpxSize{0, 0}));
-}
-
-TYPED_TEST(CopyTest, TwinsNarrowOrWalkRowByRow) {
-  using T = TypeParam;
-  Rng rng(404);
-  for (int l = 0; l < 4; ++l) {
-    const int ch = kLayoutChannels[l];
-    GuardedImage<T> src(77, 1, ch), a(77, 1, ch), b(77, 1, ch), want(77, 1, ch);
-    tpxtest::FillRandom(src, rng);
-    tpxtest::FillRandom(a, rng);
-    b.CopyFrom(a);
-    want.CopyFrom(a);
-    Each(77, 1, [&](int x, int) { for (int c = 0; c < kLayoutWritten[l]; ++c) want.At(x, 0, c) = src.At(x, 0, c); });
-    // Small steps narrow to the 32-bit export; a step past 0x7ffffffe walks the single row.
-    ASSERT_EQ(tpxOk, Api<T>::twin[l](src.Data(), src.Step(), a.Data(), a.Step(), TpxSizeL{77, 1}));
-    ASSERT_EQ(tpxOk, Api<T>::twin[l](src.Data(), 0x80000000LL, b.Data(), -0x90000000LL, TpxSizeL{77, 1}));
-    ASSERT_TRUE(Same(a, want));
-    ASSERT_TRUE(Same(b, want));
-    EXPECT_EQ(tpxErrSize, Api<T>::twin[l](src.Data(), 8, b.Data(), 8, TpxSizeL{0, 5}));
-    EXPECT_EQ(tpxOk, Api<T>::twin[l](src.Data(), 0x7fffffffLL, b.Data(), 8, TpxSizeL{0, 5}));
-    EXPECT_EQ(tpxErrNullPtr, Api<T>::twin[l](nullptr, 0x7fffffffLL, b.Data(), 8, TpxSizeL{3, 1}));
-  }
 }
 
 // Where the two address ranges of C3CR/C4CR overlap, a sample loop runs row by row from the left:
