@@ -197,7 +197,7 @@ void StreamRowCase(int n, const int (&shift)[kC], int packedShift, Rng& rng) {
   ASSERT_TRUE(Twin<T>(rng, {kC * (n + 16) + 32, kC * slot, kC * (n + 8) + 16}, [&](auto isa, T* const* b) {
     T* p[kC];
     for (int c = 0; c < kC; ++c) p[c] = b[1] + c * slot + 8 + shift[c];
-        if constexpr (decltype(isa)::value == tpx::Isa::kAvx) {
+    if constexpr (decltype(isa)::value == tpx::Isa::kAvx) {
       tpx::ToPlanarRowStreaming<isa, T, kC>(b[0] + packedShift, p, n);
       tpx::StreamFence();
       tpx::FromPlanarRowStreaming<isa, T, kC>(p, b[2] + packedShift, n);
