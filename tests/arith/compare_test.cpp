@@ -65,16 +65,11 @@ auto Value(const T* v) {
   if constexpr (L == Layout::C1) return v[0];
   else return v;
 }
-#define ADD_CASE(T, L)                                                                            \
-  Cases<Tpx##T>().push_back(Case<Tpx##T>{                                                        \
-      #T "_" #L "R", Layout::L, tpxiCompare_##T##_##L##R,                                         \
-      [](const Tpx##T* s, int ss, const Tpx##T* v, Tpx8u* d, int ds, TpxSize r, int op) {         \
-        return tpxiCompareC_##T##_##L##R(s, ss, Value<Tpx##T, Layout::L>(v), d, ds, r, op);       \
-      }});
-const bool kRegistered = [] {
-  TPX_COMPARE_MEMBERS(ADD_CASE)
-  return true;
-}();
+#define ADD_CASE(T, L)                                                                                                  \
+  Cases<Tpx##T>().push_back(Case<Tpx##T>{#T "_" #L "R", Layout::L, tpxiCompare_##T##_##L##R,                            \
+      [](const Tpx##T* s, int ss, const Tpx##T* v, Tpx8u* d, int ds, TpxSize r, int op) {                               \
+        return tpxiCompareC_##T##_##L##R(s, ss, Value<Tpx##T, Layout::L>(v), d, ds, r, op); }}),
+const bool kRegistered = (TPX_COMPARE_MEMBERS(ADD_CASE) true);
 
 TEST(Compare, EveryExportAndOpFollowsTheRuleOnTiesAndNaN) {
   Rng rng(0xC0);
