@@ -25,10 +25,8 @@ void ForEachType(F&& f) {
 }
 template <class F>
 void ForEachLayout(F&& f) {
-  f(std::integral_constant<Layout, Layout::C1>{});
-  f(std::integral_constant<Layout, Layout::C3>{});
-  f(std::integral_constant<Layout, Layout::C4>{});
-  f(std::integral_constant<Layout, Layout::AC4>{});
+  using L = Layout;
+  f(std::integral_constant<L, L::C1>{}), f(std::integral_constant<L, L::C3>{}), f(std::integral_constant<L, L::C4>{}), f(std::integral_constant<L, L::AC4>{});
 }
 template <class T>
 constexpr int Lanes() { return std::is_same_v<T, Tpx8u> ? 16 : 8; }

@@ -60,16 +60,13 @@ using M = Member<T, int>;
 #define MS_VAL_C3 a.value
 #define MS_VAL_C4 a.value
 #define MS_VAL_AC4 a.value
+#define MS_ROI TpxSize{int(a.roi.width), int(a.roi.height)}
 #define MS_ENTRY(NAME, L, C, IP, T, ...) {NAME, 0, Layout::L, C, IP, false, [](const Args<Tpx##T>& a) { return __VA_ARGS__; }},
-#define MS_MEMBER(T, L)                                                                                           \
-  MS_ENTRY("MulScale_" #T "_" #L "R", L, 0, 0, T, tpxiMulScale_##T##_##L##R(a.src1, int(a.step1), a.src2,          \
-           int(a.step2), a.dst, int(a.dstStep), TpxSize{int(a.roi.width), int(a.roi.height)}))                    \
-  MS_ENTRY("MulScale_" #T "_" #L "IR", L, 0, 1, T, tpxiMulScale_##T##_##L##IR(a.src1, int(a.step1), a.dst,         \
-           int(a.dstStep), TpxSize{int(a.roi.width), int(a.roi.height)}))                                         \
-  MS_ENTRY("MulCScale_" #T "_" #L "R", L, 1, 0, T, tpxiMulCScale_##T##_##L##R(a.src1, int(a.step1), MS_VAL_##L,    \
-           a.dst, int(a.dstStep), TpxSize{int(a.roi.width), int(a.roi.height)}))                                  \
-  MS_ENTRY("MulCScale_" #T "_" #L "IR", L, 1, 1, T, tpxiMulCScale_##T##_##L##IR(MS_VAL_##L, a.dst, int(a.dstStep), \
-           TpxSize{int(a.roi.width), int(a.roi.height)}))
+#define MS_MEMBER(T, L)                                                                                                      \
+  MS_ENTRY("MulScale_" #T "_" #L "R", L, 0, 0, T, tpxiMulScale_##T##_##L##R(a.src1, int(a.step1), a.src2, int(a.step2), a.dst, int(a.dstStep), MS_ROI)) \
+  MS_ENTRY("MulScale_" #T "_" #L "IR", L, 0, 1, T, tpxiMulScale_##T##_##L##IR(a.src1, int(a.step1), a.dst, int(a.dstStep), MS_ROI))                   \
+  MS_ENTRY("MulCScale_" #T "_" #L "R", L, 1, 0, T, tpxiMulCScale_##T##_##L##R(a.src1, int(a.step1), MS_VAL_##L, a.dst, int(a.dstStep), MS_ROI))       \
+  MS_ENTRY("MulCScale_" #T "_" #L "IR", L, 1, 1, T, tpxiMulCScale_##T##_##L##IR(MS_VAL_##L, a.dst, int(a.dstStep), MS_ROI))
 #define MS_TYPE(T) MS_MEMBER(T, C1) MS_MEMBER(T, C3) MS_MEMBER(T, C4) MS_MEMBER(T, AC4)
 
 template <class T>
@@ -115,10 +112,7 @@ void Order() {
 
 TEST(MulScaleExports, EveryMemberMatchesTheRuleAndCheckOrder) {
   Rng rng(51);
-  Sweep<Tpx8u>(rng);
-  Sweep<Tpx16u>(rng);
-  Order<Tpx8u>();
-  Order<Tpx16u>();
+  Sweep<Tpx8u>(rng), Sweep<Tpx16u>(rng), Order<Tpx8u>(), Order<Tpx16u>();
 }
 
 }  // namespace

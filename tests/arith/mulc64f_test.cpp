@@ -97,15 +97,11 @@ struct Member {
   bool inPlace;
   TpxStatus (*call)(const T* s, int ss, const Tpx64f* v, T* d, int ds, TpxSize roi, int mode);
 };
-#define MC_MEMBER(T, L, N)                                                                            \
-  {"MulC64f_" #T "_" #L "R", N, false,                                                                \
-   [](const Tpx##T* s, int ss, const Tpx64f* v, Tpx##T* d, int ds, TpxSize roi, int mode) {           \
-     return tpxiMulC64f_##T##_##L##R(s, ss, v, d, ds, roi, tpxAlgHintNone, mode);                     \
-   }},                                                                                                \
-      {"MulC64f_" #T "_" #L "IR", N, true,                                                            \
-       [](const Tpx##T*, int, const Tpx64f* v, Tpx##T* d, int ds, TpxSize roi, int mode) {            \
-         return tpxiMulC64f_##T##_##L##IR(v, d, ds, roi, tpxAlgHintAccurate, mode);                   \
-       }},
+#define MC_MEMBER(T, L, N)                                                                                               \
+  {"MulC64f_" #T "_" #L "R", N, false, [](const Tpx##T* s, int ss, const Tpx64f* v, Tpx##T* d, int ds, TpxSize roi, int mode) { \
+     return tpxiMulC64f_##T##_##L##R(s, ss, v, d, ds, roi, tpxAlgHintNone, mode); }},                                       \
+  {"MulC64f_" #T "_" #L "IR", N, true, [](const Tpx##T*, int, const Tpx64f* v, Tpx##T* d, int ds, TpxSize roi, int mode) {    \
+     return tpxiMulC64f_##T##_##L##IR(v, d, ds, roi, tpxAlgHintAccurate, mode); }},
 #define MC_TYPE(T) MC_MEMBER(T, C1, 1) MC_MEMBER(T, C3, 3) MC_MEMBER(T, C4, 4)
 
 template <class T>

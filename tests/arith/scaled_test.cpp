@@ -145,24 +145,17 @@ using M = Member<T, Op>;
 #define T_ROI TpxSize{int(a.roi.width), int(a.roi.height)}
 #define T_ENTRY(NAME, OP, L, C, IP, ISL, T, ...) \
   {NAME, Op::k##OP, Layout::L, C, IP, ISL, [](const Args<Tpx##T>& a) { return __VA_ARGS__; }},
-#define M_BIN(OP, T, L)                                                                                       \
-  T_ENTRY(#OP #T #L "R", OP, L, 0, 0, 0, T, T_FN(OP, T, L, R, T_SFX_##T, )(a.src1, int(a.step1), a.src2,       \
-          int(a.step2), a.dst, int(a.dstStep), T_ROI T_SF_##T))                                               \
-  T_ENTRY(#OP #T #L "IR", OP, L, 0, 1, 0, T, T_FN(OP, T, L, IR, T_SFX_##T, )(a.src1, int(a.step1), a.dst,      \
-          int(a.dstStep), T_ROI T_SF_##T))                                                                    \
-  T_ENTRY(#OP #T #L "R_L", OP, L, 0, 0, 1, T, T_FN(OP, T, L, R, T_SFX_##T, _L)(a.src1, a.step1, a.src2,        \
-          a.step2, a.dst, a.dstStep, a.roi T_SF_##T))                                                         \
-  T_ENTRY(#OP #T #L "IR_L", OP, L, 0, 1, 1, T, T_FN(OP, T, L, IR, T_SFX_##T, _L)(a.src1, a.step1, a.dst,       \
-          a.dstStep, a.roi T_SF_##T))
-#define M_CONST(OP, T, L)                                                                                     \
-  T_ENTRY(#OP "C" #T #L "R", OP, L, 1, 0, 0, T, T_FN(OP##C, T, L, R, T_SFX_##T, )(a.src1, int(a.step1),        \
-          T_VAL_##L, a.dst, int(a.dstStep), T_ROI T_SF_##T))                                                  \
-  T_ENTRY(#OP "C" #T #L "IR", OP, L, 1, 1, 0, T, T_FN(OP##C, T, L, IR, T_SFX_##T, )(T_VAL_##L, a.dst,          \
-          int(a.dstStep), T_ROI T_SF_##T))                                                                    \
-  T_ENTRY(#OP "C" #T #L "R_L", OP, L, 1, 0, 1, T, T_FN(OP##C, T, L, R, T_SFX_##T, _L)(a.src1, a.step1,         \
-          T_VAL_##L, a.dst, a.dstStep, a.roi T_SF_##T))                                                       \
-  T_ENTRY(#OP "C" #T #L "IR_L", OP, L, 1, 1, 1, T, T_FN(OP##C, T, L, IR, T_SFX_##T, _L)(T_VAL_##L, a.dst,      \
-          a.dstStep, a.roi T_SF_##T))
+// The R and IR forms of one step width: I narrows the steps, ROI is the region argument.
+#define M_BIN1(OP, T, L, ISL, TAIL, I, ROI)                                                                     \
+  T_ENTRY(#OP #T #L "R" #TAIL, OP, L, 0, 0, ISL, T, T_FN(OP, T, L, R, T_SFX_##T, TAIL)(a.src1, I(a.step1), a.src2, \
+          I(a.step2), a.dst, I(a.dstStep), ROI T_SF_##T))                                                      \
+  T_ENTRY(#OP #T #L "IR" #TAIL, OP, L, 0, 1, ISL, T, T_FN(OP, T, L, IR, T_SFX_##T, TAIL)(a.src1, I(a.step1), a.dst, I(a.dstStep), ROI T_SF_##T))
+#define M_CONST1(OP, T, L, ISL, TAIL, I, ROI)                                                                        \
+  T_ENTRY(#OP "C" #T #L "R" #TAIL, OP, L, 1, 0, ISL, T, T_FN(OP##C, T, L, R, T_SFX_##T, TAIL)(a.src1, I(a.step1),      \
+          T_VAL_##L, a.dst, I(a.dstStep), ROI T_SF_##T))                                                           \
+  T_ENTRY(#OP "C" #T #L "IR" #TAIL, OP, L, 1, 1, ISL, T, T_FN(OP##C, T, L, IR, T_SFX_##T, TAIL)(T_VAL_##L, a.dst, I(a.dstStep), ROI T_SF_##T))
+#define M_BIN(OP, T, L) M_BIN1(OP, T, L, 0, , int, T_ROI) M_BIN1(OP, T, L, 1, _L, , a.roi)
+#define M_CONST(OP, T, L) M_CONST1(OP, T, L, 0, , int, T_ROI) M_CONST1(OP, T, L, 1, _L, , a.roi)
 #define M_LAYOUTS(X, OP, T) X(OP, T, C1) X(OP, T, C3) X(OP, T, C4) X(OP, T, AC4)
 #define M_TYPE(T)                                                                                          \
   M_LAYOUTS(M_BIN, Add, T) M_LAYOUTS(M_BIN, Sub, T) M_LAYOUTS(M_BIN, Mul, T) M_LAYOUTS(M_CONST, Add, T)     \
@@ -215,6 +208,11 @@ TEST(ScaledExports, EveryMemberMatchesTheModel) {
   });
 }
 
+template <class T>
+void Expect(const M<T>& m, const Args<T>& a, TpxStatus want, int slot = -1) {
+  EXPECT_EQ(m.call(a), want) << m.name << " slot " << slot;
+}
+
 // Pointers before size; no step and no scale-factor check. The C3 and C4 two-image members of
 // 32f widen the row of the C1 path and test the width first.
 TEST(ScaledExports, NullBeforeSizeAndNoStepOrScaleCheck) {
@@ -228,27 +226,16 @@ TEST(ScaledExports, NullBeforeSizeAndNoStepOrScaleCheck) {
         if (!uses[slot]) continue;
         Args<T> a{slot == 0 ? nullptr : buf, 16, slot == 1 ? nullptr : buf, 16, slot == 2 ? nullptr : buf, 16,
                   TpxSizeL{0, 3}, slot == 3 ? nullptr : buf, 0};
-        EXPECT_EQ(m.call(a), widthFirst ? tpxErrSize : tpxErrNullPtr) << m.name << " slot " << slot;
-        a.roi = TpxSizeL{3, 0};
-        EXPECT_EQ(m.call(a), tpxErrNullPtr) << m.name << " slot " << slot;
-        a.roi = TpxSizeL{-1, -1};
-        EXPECT_EQ(m.call(a), widthFirst ? tpxErrSize : tpxErrNullPtr) << m.name << " slot " << slot;
+        for (TpxSizeL roi : {TpxSizeL{0, 3}, {3, 0}, {-1, -1}})  // a null pointer ahead of any size
+          a.roi = roi, Expect(m, a, widthFirst && roi.width <= 0 ? tpxErrSize : tpxErrNullPtr, slot);
       }
       Args<T> ok{buf, 16, buf, 16, buf, 16, TpxSizeL{0, 3}, buf, 0};
-      EXPECT_EQ(m.call(ok), tpxErrSize) << m.name;
-      ok.roi = TpxSizeL{2, -4};
-      EXPECT_EQ(m.call(ok), tpxErrSize) << m.name;
-      ok.roi = TpxSizeL{1, 1};
-      ok.step1 = ok.step2 = ok.dstStep = -7;
-      for (int sf : {INT_MIN, INT_MAX}) {
-        ok.sf = sf;
-        EXPECT_EQ(m.call(ok), tpxOk) << m.name;
-      }
+      for (TpxSizeL roi : {TpxSizeL{0, 3}, {2, -4}}) ok.roi = roi, Expect(m, ok, tpxErrSize);
+      ok.roi = TpxSizeL{1, 1}, ok.step1 = ok.step2 = ok.dstStep = -7;
+      for (int sf : {INT_MIN, INT_MAX}) ok.sf = sf, Expect(m, ok, tpxOk);
       if (!m.isL) continue;  // steps that do not fit 32 bits: an empty region is no work
-      ok.step1 = ok.step2 = ok.dstStep = 0x7fffffffLL, ok.roi = TpxSizeL{0, 3};
-      EXPECT_EQ(m.call(ok), tpxOk) << m.name;
-      ok.dstStep = -0x7fffffffLL, ok.roi = TpxSizeL{5, -2};
-      EXPECT_EQ(m.call(ok), tpxOk) << m.name;
+      ok.step1 = ok.step2 = ok.dstStep = 0x7fffffffLL, ok.roi = TpxSizeL{0, 3}, Expect(m, ok, tpxOk);
+      ok.dstStep = -0x7fffffffLL, ok.roi = TpxSizeL{5, -2}, Expect(m, ok, tpxOk);
     }
   });
 }

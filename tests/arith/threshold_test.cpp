@@ -67,33 +67,16 @@ auto Arg(const T (&a)[4]) {
 #define ARGS_2(T, L) Arg<Tpx##T, Layout::L>(a.t), Arg<Tpx##T, Layout::L>(a.v)
 #define ARGS_2OP(T, L) ARGS_2(T, L), a.cmpOp
 #define ARGS_4(T, L) ARGS_2(T, L), Arg<Tpx##T, Layout::L>(a.tGT), Arg<Tpx##T, Layout::L>(a.vGT)
-#define ADD_CASE(FamName, F, ARGS, T, L)                                                          \
-  Cases<Tpx##T>().push_back(Case<Tpx##T>{                                                        \
-      "tpxiThreshold" #FamName "_" #T "_" #L "R", F, Layout::L,                                  \
-      [](const Tpx##T* s, int ss, Tpx##T* d, int ds, TpxSize r, const Args<Tpx##T>& a) {          \
-        return tpxiThreshold##FamName##_##T##_##L##R(s, ss, d, ds, r, ARGS(T, L));                \
-      },                                                                                          \
-      [](Tpx##T* d, int ds, TpxSize r, const Args<Tpx##T>& a) {                                   \
-        return tpxiThreshold##FamName##_##T##_##L##IR(d, ds, r, ARGS(T, L));                      \
-      }});
-#define ADD_BYOP(T, L) ADD_CASE(, Fam::kByOp, ARGS_OP, T, L)
-#define ADD_GT(T, L) ADD_CASE(_GT, Fam::kGT, ARGS_1, T, L)
-#define ADD_LT(T, L) ADD_CASE(_LT, Fam::kLT, ARGS_1, T, L)
-#define ADD_VAL(T, L) ADD_CASE(_Val, Fam::kValByOp, ARGS_2OP, T, L)
-#define ADD_GTVAL(T, L) ADD_CASE(_GTVal, Fam::kGTVal, ARGS_2, T, L)
-#define ADD_LTVAL(T, L) ADD_CASE(_LTVal, Fam::kLTVal, ARGS_2, T, L)
-#define ADD_LTVALGTVAL(T, L) ADD_CASE(_LTValGTVal, Fam::kLTValGTVal, ARGS_4, T, L)
-
-const bool kRegistered = [] {
-  TPX_THRESHOLD_MEMBERS(ADD_BYOP)
-  TPX_THRESHOLD_MEMBERS(ADD_GT)
-  TPX_THRESHOLD_MEMBERS(ADD_LT)
-  TPX_THRESHOLD_MEMBERS(ADD_VAL)
-  TPX_THRESHOLD_VAL_MEMBERS(ADD_GTVAL)
-  TPX_THRESHOLD_VAL_MEMBERS(ADD_LTVAL)
-  TPX_THRESHOLD_MEMBERS(ADD_LTVALGTVAL)
-  return true;
-}();
+#define ADD_CASE(FamName, F, ARGS, T, L)                                                                          \
+  Cases<Tpx##T>().push_back(Case<Tpx##T>{"tpxiThreshold" #FamName "_" #T "_" #L "R", F, Layout::L,                 \
+      [](const Tpx##T* s, int ss, Tpx##T* d, int ds, TpxSize r, const Args<Tpx##T>& a) {                          \
+        return tpxiThreshold##FamName##_##T##_##L##R(s, ss, d, ds, r, ARGS(T, L)); },                             \
+      [](Tpx##T* d, int ds, TpxSize r, const Args<Tpx##T>& a) { return tpxiThreshold##FamName##_##T##_##L##IR(d, ds, r, ARGS(T, L)); }}),
+#define ADD_ALL(T, L)                                                                                         \
+  ADD_CASE(, Fam::kByOp, ARGS_OP, T, L) ADD_CASE(_GT, Fam::kGT, ARGS_1, T, L) ADD_CASE(_LT, Fam::kLT, ARGS_1, T, L) \
+  ADD_CASE(_Val, Fam::kValByOp, ARGS_2OP, T, L) ADD_CASE(_LTValGTVal, Fam::kLTValGTVal, ARGS_4, T, L)
+#define ADD_VALS(T, L) ADD_CASE(_GTVal, Fam::kGTVal, ARGS_2, T, L) ADD_CASE(_LTVal, Fam::kLTVal, ARGS_2, T, L)
+const bool kRegistered = (TPX_THRESHOLD_MEMBERS(ADD_ALL) TPX_THRESHOLD_VAL_MEMBERS(ADD_VALS) true);
 
 template <class T>
 Args<T> RandomArgs(Rng& rng) {
@@ -177,11 +160,8 @@ TEST(Threshold, AvxRowEqualsScalarRow) {
   ForEachType([&](auto tag) {
     using T = decltype(tag);
     ForEachLayout([&](auto lay) {
-      TwinsAgree<tpx::ThreshGT, T, lay.value>(rng);
-      TwinsAgree<tpx::ThreshLT, T, lay.value>(rng);
-      TwinsAgree<tpx::ThreshGTVal, T, lay.value>(rng);
-      TwinsAgree<tpx::ThreshLTVal, T, lay.value>(rng);
-      TwinsAgree<tpx::ThreshLTValGTVal, T, lay.value>(rng);
+      std::apply([&](auto... op) { (TwinsAgree<decltype(op), T, lay.value>(rng), ...); },
+                 std::tuple<tpx::ThreshGT, tpx::ThreshLT, tpx::ThreshGTVal, tpx::ThreshLTVal, tpx::ThreshLTValGTVal>{});
     });
   });
 }
@@ -195,33 +175,29 @@ int UnknownCache(int*) { ++gQueries; return 1; }
 TEST(Threshold, StreamingFor16uIsChosenBySizeAndChangesNothing) {
   using Op = tpx::ThreshLTValGTVal;
   const Tpx16u params[4][4] = {{100, 100, 100}, {7, 7, 7}, {250, 250, 250}, {9, 9, 9}};
-  auto run = [&](GuardedImage<Tpx16u>& s, GuardedImage<Tpx16u>& d, tpx::CacheSizeQuery q) {
-    tpx::ThresholdRegion<Op, Tpx16u, Layout::C3>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, q);
+  auto run = [&](auto lay, GuardedImage<Tpx16u>& s, GuardedImage<Tpx16u>& d, tpx::CacheSizeQuery q) {
+    tpx::ThresholdRegion<Op, Tpx16u, lay.value>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, q);
   };
+  constexpr std::integral_constant<Layout, Layout::C1> kC1;
+  constexpr std::integral_constant<Layout, Layout::C3> kC3;
   // The amount is counted in samples: 0x40000 and 0x40001 in C1, 87382 C3 pixels = 0x40002.
   for (auto [width, ch, asks] : {std::tuple{0x40000, 1, 0}, {0x40001, 1, 1}, {87382, 3, 1}}) {
     GuardedImage<Tpx16u> s(width, 1, ch), d(width, 1, ch);
     gQueries = 0;
-    if (ch == 1)
-      tpx::ThresholdRegion<Op, Tpx16u, Layout::C1>(s.Data(), s.Step(), d.Data(), d.Step(), s.Size(), params, SmallCache);
-    else
-      run(s, d, SmallCache);
+    ch == 1 ? run(kC1, s, d, SmallCache) : run(kC3, s, d, SmallCache);
     EXPECT_EQ(gQueries, asks) << width;
   }
   Rng rng(0x16);
   GuardedImage<Tpx16u> s(301, 299, 3, 5, 1), plain(301, 299, 3, 3, 2), streamed(301, 299, 3, 1, 3), ref(301, 299, 3);
   tpxtest::FillFrom(s, rng, SamplesAround<Tpx16u>());
-  run(s, plain, UnknownCache);
-  run(s, streamed, SmallCache);
+  run(kC3, s, plain, UnknownCache), run(kC3, s, streamed, SmallCache);
   tpx::ThresholdRegion<Op, Tpx16u, Layout::C3, Isa::kScalar>(s.Data(), s.Step(), ref.Data(), ref.Step(), s.Size(), params);
-  EXPECT_TRUE(SameSamples(plain, ref) && SameSamples(streamed, ref));
-  EXPECT_TRUE(plain.GuardsIntact() && streamed.GuardsIntact());
+  EXPECT_TRUE(SameSamples(plain, ref) && SameSamples(streamed, ref) && plain.GuardsIntact() && streamed.GuardsIntact());
 }
 
 // Pointers, size, step, then the family's own argument; _Val tests cmpOp first of all.
 TEST(Threshold, CheckOrderWithTwoFaults) {
-  Tpx8u img[64] = {};
-  Tpx8u keep[64];
+  Tpx8u img[64] = {}, keep[64];
   std::memset(keep, 0x5A, sizeof(keep));
   const TpxSize ok{4, 4}, empty{0, 4};
   const Tpx8u three[3] = {1, 2, 3}, lower[3] = {5, 5, 5}, upper[3] = {9, 9, 4};
@@ -245,8 +221,7 @@ TEST(Threshold, CheckOrderWithTwoFaults) {
   for (Tpx8u b : keep) ASSERT_EQ(b, 0x5A);  // no failing call wrote anything
   // Equal thresholds are allowed and keep the samples equal to them.
   Tpx8u row[3] = {4, 5, 6};
-  EXPECT_EQ(tpxiThreshold_LTValGTVal_8u_C1IR(row, 3, TpxSize{3, 1}, 5, 0, 5, 255), tpxOk);
-  EXPECT_TRUE(row[0] == 0 && row[1] == 5 && row[2] == 255);
+  EXPECT_TRUE(tpxiThreshold_LTValGTVal_8u_C1IR(row, 3, TpxSize{3, 1}, 5, 0, 5, 255) == tpxOk && row[0] == 0 && row[1] == 5 && row[2] == 255);
 }
 
 // The NaN difference between the clamping and the Val forms, with NaN thresholds too.
@@ -254,18 +229,14 @@ TEST(Threshold, NaNSampleClampsToThresholdButPassesVal) {
   const float nan = std::numeric_limits<float>::quiet_NaN();
   float d = 0;
   const TpxSize one{1, 1};
-  ASSERT_EQ(tpxiThreshold_GT_32f_C1R(&nan, 4, &d, 4, one, 3.0f), tpxOk);
-  EXPECT_EQ(d, 3.0f);
-  ASSERT_EQ(tpxiThreshold_32f_C1R(&nan, 4, &d, 4, one, -2.0f, tpxCmpLess), tpxOk);
-  EXPECT_EQ(d, -2.0f);
-  ASSERT_EQ(tpxiThreshold_GTVal_32f_C1R(&nan, 4, &d, 4, one, 3.0f, 9.0f), tpxOk);
-  EXPECT_TRUE(std::isnan(d));
-  // A NaN threshold: min(s, NaN) is NaN; no sample compares above or below it.
   const float s = 1.0f;
-  ASSERT_EQ(tpxiThreshold_GT_32f_C1R(&s, 4, &d, 4, one, nan), tpxOk);
-  EXPECT_TRUE(std::isnan(d));
-  ASSERT_EQ(tpxiThreshold_LTValGTVal_32f_C1R(&s, 4, &d, 4, one, nan, 0.0f, nan, 0.0f), tpxOk);
-  EXPECT_EQ(d, 1.0f);
+  auto run = [&](TpxStatus st) { return st == tpxOk ? d : -99.0f; };
+  EXPECT_EQ(run(tpxiThreshold_GT_32f_C1R(&nan, 4, &d, 4, one, 3.0f)), 3.0f);
+  EXPECT_EQ(run(tpxiThreshold_32f_C1R(&nan, 4, &d, 4, one, -2.0f, tpxCmpLess)), -2.0f);
+  EXPECT_TRUE(std::isnan(run(tpxiThreshold_GTVal_32f_C1R(&nan, 4, &d, 4, one, 3.0f, 9.0f))));
+  // A NaN threshold: min(s, NaN) is NaN; no sample compares above or below it.
+  EXPECT_TRUE(std::isnan(run(tpxiThreshold_GT_32f_C1R(&s, 4, &d, 4, one, nan))));
+  EXPECT_EQ(run(tpxiThreshold_LTValGTVal_32f_C1R(&s, 4, &d, 4, one, nan, 0.0f, nan, 0.0f)), 1.0f);
 }
 
 }  // namespace
