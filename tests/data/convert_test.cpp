@@ -176,16 +176,14 @@ TEST(ConvertChecks, OrderByMemberClass) {
   TPX_CONVERT_PLAIN_4L(TPX_T_ORD_PLAIN_ALL)
   TPX_CONVERT_PLAIN_C1(TPX_T_ORD_PLAIN_ONE)
   TPX_CONVERT_RS(TPX_T_ORD_RS)
-#define TPX_T_ORD_ROUND(S, D, L)                                                                             \
-  OrderCase<Tpx##S, Tpx##D>(#S #D #L, false, [](const Tpx##S* s, int ss, Tpx##D* d, int ds, TpxSize r) {      \
-    return tpxiConvert_##S##D##_##L##R(s, ss, d, ds, r, 99);                                                  \
+#define TPX_T_ORD(S, D, NAME, FORM, ...)                                                                     \
+  OrderCase<Tpx##S, Tpx##D>(#S #D NAME, false, [](const Tpx##S* s, int ss, Tpx##D* d, int ds, TpxSize r) {    \
+    return tpxiConvert_##S##D##_##FORM(s, ss, d, ds, r, __VA_ARGS__);                                         \
   });
+#define TPX_T_ORD_ROUND(S, D, L) TPX_T_ORD(S, D, #L, L##R, 99)
 #define TPX_T_ORD_ROUND_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_ORD_ROUND, S, D)
   TPX_CONVERT_ROUND_4L(TPX_T_ORD_ROUND_ALL)
-#define TPX_T_ORD_SFS(S, D)                                                                                  \
-  OrderCase<Tpx##S, Tpx##D>(#S #D "Sfs", false, [](const Tpx##S* s, int ss, Tpx##D* d, int ds, TpxSize r) {   \
-    return tpxiConvert_##S##D##_C1RSfs(s, ss, d, ds, r, -3, INT_MIN);                                         \
-  });
+#define TPX_T_ORD_SFS(S, D) TPX_T_ORD(S, D, "Sfs", C1RSfs, -3, INT_MIN)
   TPX_CONVERT_FLOAT_SFS(TPX_T_ORD_SFS)
   TPX_CONVERT_INT_SFS(TPX_T_ORD_SFS)
   Tpx32u img[8] = {};
