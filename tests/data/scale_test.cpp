@@ -1,12 +1,5 @@
 // tpxiScale_*: every export against its model over every shape, the exact integer maps, the
 // agreement of the two narrowing paths, and the check order with the range test first.
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cmath>
-#include <limits>
-#include <string>
-#include <vector>
 
 #include "core/layout.h"
 #include "data/convert_members.h"
@@ -44,7 +37,6 @@ void LimitsCase(const std::string& name, Fn fn, Rng& rng) {
     }
   }
 }
-
 
 TEST(ScaleLimits, EndpointsAndRounding) {
   const Tpx8u s[] = {0, 255};
