@@ -2,13 +2,9 @@
 // conversions, exact widenings, and float to integer rounding half to even for finite samples
 // in the 32-bit range (OpenCV stores NaN and out-of-range floats differently, by design).
 #if defined(TPX_HAVE_OPENCV)
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <opencv2/core.hpp>
-#include <string>
-#include <vector>
 
 #include "data/convert_members.h"
 #include "data/convert_testing.h"

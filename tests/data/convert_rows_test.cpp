@@ -1,13 +1,8 @@
 // Every row operation of Convert and Scale: the AVX row (plain and streaming) and the AVX AC4
 // row against their scalar twins, bit for bit, for every length up to 3 vectors + 3 and longer
 // ones through the grouped loop, on misaligned rows that end exactly where the allocation ends.
-#include <gtest/gtest.h>
 
-#include <climits>
-#include <cstring>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "core/float_to_int.h"
 #include "data/convert_members.h"

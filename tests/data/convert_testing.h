@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <climits>
 #include <cmath>
 #include <cstring>
 #include <functional>

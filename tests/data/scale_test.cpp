@@ -1,12 +1,5 @@
 // tpxiScale_*: every export against its model over every shape, the exact integer maps, the
 // agreement of the two narrowing paths, and the check order with the range test first.
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <cmath>
-#include <limits>
-#include <string>
-#include <vector>
 
 #include "core/layout.h"
 #include "data/convert_members.h"
@@ -45,13 +38,6 @@ void LimitsCase(const std::string& name, Fn fn, Rng& rng) {
   }
 }
 
-TEST(ScaleLimits, EveryMemberMatchesTheModel) {
-  Rng rng(21);
-#define TPX_T_LIM(S, D, L) LimitsCase<Tpx##S, Tpx##D, Layout::L>(#S #D #L, tpxiScale_##S##D##_##L##R, rng);
-#define TPX_T_LIM_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_LIM, S, D)
-  TPX_SCALE_LIMITS_4L(TPX_T_LIM_ALL)
-}
-
 TEST(ScaleLimits, EndpointsAndRounding) {
   const Tpx8u s[] = {0, 255};
   float d[2];
@@ -80,8 +66,11 @@ void HintCase(const std::string& name, Fn fn, Rng& rng) {
   }
 }
 
-TEST(ScaleHint, EveryMemberMatchesTheModel) {
+TEST(Scale, EveryMemberMatchesTheModel) {
   Rng rng(22);
+#define TPX_T_LIM(S, D, L) LimitsCase<Tpx##S, Tpx##D, Layout::L>(#S #D #L, tpxiScale_##S##D##_##L##R, rng);
+#define TPX_T_LIM_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_LIM, S, D)
+  TPX_SCALE_LIMITS_4L(TPX_T_LIM_ALL)
 #define TPX_T_HINT(S, D, L) HintCase<Tpx##S, Tpx##D, Layout::L>(#S #D #L, tpxiScale_##S##D##_##L##R, rng);
 #define TPX_T_HINT_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_HINT, S, D)
   TPX_SCALE_HINT_4L(TPX_T_HINT_ALL)
@@ -118,20 +107,19 @@ TEST(ScaleHint, NarrowingPathsOnHardSamples) {
 
 TEST(ScaleChecks, RangeFirstThenPointersSizeStep) {
   const float nan = std::numeric_limits<float>::quiet_NaN();
-#define TPX_T_SORD_LIM(S, D, L)                                                                                   \
+#define TPX_T_SORD(S, D, L, ...)                                                                                  \
   OrderCase<Tpx##S, Tpx##D>(#S #D #L, false, [](const Tpx##S* s, int ss, Tpx##D* d, int ds, TpxSize r) {            \
-    return tpxiScale_##S##D##_##L##R(s, ss, d, ds, r, -1.0f, 1.0f);                                                \
-  });                                                                                                             \
+    return tpxiScale_##S##D##_##L##R(s, ss, d, ds, r, __VA_ARGS__);                                                \
+  });
+#define TPX_T_SORD_LIM(S, D, L)                                                                                   \
+  TPX_T_SORD(S, D, L, -1.0f, 1.0f)                                                                                \
   for (auto [lo, hi] : {std::pair<float, float>{1.0f, 1.0f}, {2.0f, 1.0f}, {nan, 1.0f}, {0.0f, nan}})               \
     EXPECT_EQ(tpxiScale_##S##D##_##L##R(nullptr, -1, nullptr, 0, TpxSize{0, -1}, lo, hi), tpxErrScaleRange);        \
   /* A difference that is tiny but above 0 passes. */                                                             \
   EXPECT_EQ(tpxiScale_##S##D##_##L##R(nullptr, 1, nullptr, 1, TpxSize{1, 1}, 1.0f, 1.0000001f), tpxErrNullPtr);
 #define TPX_T_SORD_LIM_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_SORD_LIM, S, D)
   TPX_SCALE_LIMITS_4L(TPX_T_SORD_LIM_ALL)
-#define TPX_T_SORD_HINT(S, D, L)                                                                                  \
-  OrderCase<Tpx##S, Tpx##D>(#S #D #L, false, [](const Tpx##S* s, int ss, Tpx##D* d, int ds, TpxSize r) {            \
-    return tpxiScale_##S##D##_##L##R(s, ss, d, ds, r, 12345);                                                      \
-  });
+#define TPX_T_SORD_HINT(S, D, L) TPX_T_SORD(S, D, L, 12345)
 #define TPX_T_SORD_HINT_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_SORD_HINT, S, D)
   TPX_SCALE_HINT_4L(TPX_T_SORD_HINT_ALL)
 }
