@@ -178,10 +178,45 @@ TPX_FILTER_INLINE void RowPairSumsAnyWidth(Row&& row, int off, const Window& win
   else RowPairSums<kCh, kV, kTwo>(row, off, win, k, a0, a1);
 }
 
+// ---- One destination row per pass -------------------------------------------------------------
+// Float sums of kV vectors of one destination row for a kKw x kKh kernel known at compile
+// time (3x3 and 5x5): rows[i] + off points at the sample under tap (i, 0) of the block's first
+// sample. Every tap is unrolled, a broadcast and kV products whose loads fold into the
+// multiplies, in the caller's order with the first product starting each sum, as in
+// RowPairSums. Against two rows per pass this issues fewer instructions per tap and gives the
+// compiler a fixed order to keep: at 5x5 a vector takes about 24 cycles from L2 where the
+// two-row pass took 29. The loads do not share across rows, so about two in five of them split
+// a cache line; the split loads (one a cycle) are what holds it above the 17-cycle floor of
+// the multiplies and adds.
+template <int kCh, int kV, int kKw, int kKh>
+TPX_FILTER_INLINE void UnrolledRowSums(const float* const (&rows)[kKh], int off, const KernelView<float>& k,
+                                       __m256 (&a)[kV]) {
+  #pragma GCC unroll 32
+  for (int t = 0; t < kKw * kKh; ++t) {
+    const float* f = rows[t / kKw] + off + (t % kKw) * kCh;
+    const __m256 c = _mm256_broadcast_ss(k.base + static_cast<std::ptrdiff_t>(t) * k.stride);
+    #pragma GCC unroll 8
+    for (int v = 0; v < kV; ++v) {
+      const __m256 p = _mm256_mul_ps(c, _mm256_loadu_ps(f + 8 * v));
+      a[v] = t == 0 ? p : _mm256_add_ps(a[v], p);
+    }
+  }
+}
+
+// Calls body(kernel size as a constant) for the square kernels that take one row per pass;
+// false for the others.
+template <class Body>
+TPX_FILTER_INLINE bool WithUnrolledKernel(const Window& win, Body&& body) {
+  if (win.kw == 3 && win.kh == 3) return body(std::integral_constant<int, 3>{}), true;
+  if (win.kw == 5 && win.kh == 5) return body(std::integral_constant<int, 5>{}), true;
+  return false;
+}
+
 // Source rows converted to float once. The region is walked in column tiles as wide as a
 // stack ring of kh + 1 rows allows (the whole row for the usual sizes); in a tile every
 // source row the kernel reads is converted once into the ring, and two destination rows are
-// computed per pass from the kh + 1 rows they read. Kernels taller or wider than the ring
+// computed per pass from the kh + 1 rows they read (one row per pass for 3x3 and 5x5, with
+// the taps unrolled). Kernels taller or wider than the ring
 // takes take the routines that convert per block.
 inline constexpr int kRingFloats = 12288;  // 48 KiB of stack
 inline constexpr int kRingRows = 16;       // kh + 1 at most
@@ -191,7 +226,8 @@ inline bool RingFits(const Window& win, int ch) {
 }
 
 // Float sums of kernel k over source rows converted once into a ring, two destination rows a
-// pass; `store(d, acc)` finishes and writes each vector of eight sums.
+// pass or one for the unrolled sizes; `store(d, acc)` finishes and writes each vector of
+// eight sums.
 template <class T, int kCh, class Store>
 void ConvertedRowSums(const T* src, std::ptrdiff_t step, T* dst, std::ptrdiff_t dstStep, int n, int h,
                       const Window& win, const KernelView<float>& k, Store&& store) {
@@ -215,6 +251,24 @@ void ConvertedRowSums(const T* src, std::ptrdiff_t step, T* dst, std::ptrdiff_t 
       if (t < span) _mm256_storeu_ps(d + span - 8, LoadF8(s + span - 8));
     };
     int next = -win.ay;  // next source row to convert
+    auto oneRow = [&](auto size) {
+      constexpr int kK = decltype(size)::value;
+      for (int y = 0; y < h; ++y) {
+        for (const int last = y - win.ay + kK - 1; next <= last; ++next) convert(next);
+        const float* rows[kK];
+        for (int i = 0; i < kK; ++i) rows[i] = ring + (y + i) % slots * pitch;
+        T* d = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep) + o0;
+        auto block = [&](auto v, int o) {
+          constexpr int kV = decltype(v)::value;
+          __m256 a[kV];
+          UnrolledRowSums<kCh, kV, kK, kK>(rows, o, k, a);
+          #pragma GCC unroll 8
+          for (int q = 0; q < kV; ++q) store(d + o + 8 * q, a[q]);
+        };
+        ForEachVectorBlock<8, 8>(tw, 0, block);
+      }
+    };
+    if (WithUnrolledKernel(win, oneRow)) continue;
     for (int y = 0; y < h; y += 2) {
       const bool two = y + 1 < h;
       for (const int last = y - win.ay + win.kh - (two ? 0 : 1); next <= last; ++next) convert(next);
@@ -887,7 +941,7 @@ void FloatKindRows(const T* src, std::ptrdiff_t srcStep, T* dst, std::ptrdiff_t 
 // tap, no product skipped, so 0 * inf gives NaN and a NaN anywhere reaches the sum. Without a
 // fused multiply-add the floor of a tap is a multiply (ports 0, 1) and an add (ports 1, 5):
 // two operations over three ports. Kernels of 3x3 and 5x5 take one destination row of eight
-// vectors per pass with every tap unrolled (Float32RowsUnrolled); other sizes take two rows of
+// vectors per pass with every tap unrolled (UnrolledRowSums); other sizes take two rows of
 // kV vectors per pass, each broadcast coefficient serving kV products and each loaded source
 // vector serving both rows. Either way eight or more independent sums are in flight and each
 // one waits for its own previous add only.
@@ -954,37 +1008,18 @@ TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kwRun, int 
 // A full block also asks for the destination lines two blocks ahead and for the block's lines
 // of the two source rows the next pass adds: the new rows are on their way while this pass
 // computes.
-// 3x3 and 5x5: one destination row per pass, every tap unrolled, each tap a broadcast and kV
-// products whose source loads fold into the multiplies. Against the two-row passes this
-// issues fewer instructions per tap and gives the compiler a fixed order to keep; at 5x5 it
-// takes about 24 cycles a vector from L2 where the two-row pass took 29. The loads do not
-// share across rows, so about two in five of them split a cache line, and the split loads
-// (one a cycle) are what holds it above the 17-cycle floor of the multiplies and adds.
-template <int kCh, int kV, int kKw, int kKh>
-TPX_FILTER_INLINE void Float32TapsUnrolled(const float* top, std::ptrdiff_t srcStep, const float* last,
-                                           __m256 (&a)[kV]) {
-  #pragma GCC unroll 32
-  for (int t = 0; t < kKw * kKh; ++t) {
-    const float* f = Advance(top, static_cast<std::ptrdiff_t>(t / kKw) * srcStep) + (t % kKw) * kCh;
-    const __m256 c = _mm256_broadcast_ss(last - t);
-    #pragma GCC unroll 8
-    for (int v = 0; v < kV; ++v) {
-      const __m256 p = _mm256_mul_ps(c, _mm256_loadu_ps(f + 8 * v));
-      a[v] = t == 0 ? p : _mm256_add_ps(a[v], p);
-    }
-  }
-}
-
-// One destination row per pass over blocks of 64 samples, then single vectors and an
-// overlapping last vector. A full block asks for its lines of the source row the next row
-// adds and for the destination lines two blocks ahead.
-template <int kCh, int kKw, int kKh>
+// 3x3 and 5x5: one destination row per pass over blocks of 64 samples, then single vectors
+// and an overlapping last vector. A full block asks for its lines of the source row the next
+// row adds and for the destination lines two blocks ahead.
+template <int kCh, int kK>
 void Float32RowsUnrolled(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrdiff_t dstStep, int n,
-                         int h, const Window& win, const float* last) {
+                         int h, const Window& win, const KernelView<float>& k) {
   for (int y = 0; y < h; ++y) {
-    const float* top = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
+    const float* rows[kK];
+    rows[0] = Advance(src, static_cast<std::ptrdiff_t>(y - win.ay) * srcStep) - win.ax * kCh;
+    for (int i = 1; i < kK; ++i) rows[i] = Advance(rows[i - 1], srcStep);
     float* d = Advance(dst, static_cast<std::ptrdiff_t>(y) * dstStep);
-    const float* next = y + 1 < h ? Advance(top, static_cast<std::ptrdiff_t>(kKh) * srcStep) : nullptr;
+    const float* next = y + 1 < h ? Advance(rows[kK - 1], srcStep) : nullptr;
     auto block = [&](auto v, int o) {
       constexpr int kV = decltype(v)::value;
       if constexpr (kV == 8) {
@@ -995,7 +1030,7 @@ void Float32RowsUnrolled(const float* src, std::ptrdiff_t srcStep, float* dst, s
         }
       }
       __m256 a[kV];
-      Float32TapsUnrolled<kCh, kV, kKw, kKh>(top + o, srcStep, last, a);
+      UnrolledRowSums<kCh, kV, kK, kK>(rows, o, k, a);
       #pragma GCC unroll 8
       for (int q = 0; q < kV; ++q) _mm256_storeu_ps(d + o + 8 * q, a[q]);
     };
@@ -1009,8 +1044,10 @@ void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrd
   const int n = w * kCh, taps = win.kw * win.kh;
   if (kI == Isa::kAvx && n >= 8) {
     const float* last = rev + (taps - 1);
-    if (win.kw == 3 && win.kh == 3) return Float32RowsUnrolled<kCh, 3, 3>(src, srcStep, dst, dstStep, n, h, win, last);
-    if (win.kw == 5 && win.kh == 5) return Float32RowsUnrolled<kCh, 5, 5>(src, srcStep, dst, dstStep, n, h, win, last);
+    auto unrolled = [&](auto size) {
+      Float32RowsUnrolled<kCh, decltype(size)::value>(src, srcStep, dst, dstStep, n, h, win, {last, -1});
+    };
+    if (WithUnrolledKernel(win, unrolled)) return;
     // Full blocks of two rows know the usual widths 3 and 5 at compile time.
     auto rowsOf = [&](auto kwc) {
       for (int y = 0; y < h; y += 2) {
