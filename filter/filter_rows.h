@@ -216,8 +216,8 @@ TPX_FILTER_INLINE bool WithUnrolledKernel(const Window& win, Body&& body) {
 // stack ring of kh + 1 rows allows (the whole row for the usual sizes); in a tile every
 // source row the kernel reads is converted once into the ring, and two destination rows are
 // computed per pass from the kh + 1 rows they read (one row per pass for 3x3 and 5x5, with
-// the taps unrolled). Kernels taller or wider than the ring
-// takes take the routines that convert per block.
+// the taps unrolled). Kernels taller or wider than the ring take the routines that convert
+// per block.
 inline constexpr int kRingFloats = 12288;  // 48 KiB of stack
 inline constexpr int kRingRows = 16;       // kh + 1 at most
 inline constexpr int kRingReach = 64;      // (kw - 1) * channels at most
@@ -1002,12 +1002,6 @@ TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kwRun, int 
   }
 }
 
-// 32f rows: two destination rows per pass over blocks of 32 samples, then single vectors and
-// an overlapping last vector; an odd last row alone. Rows under 8 samples and the scalar twin
-// take FloatSum. `rev` is the kernel as the spec keeps it (reversed).
-// A full block also asks for the destination lines two blocks ahead and for the block's lines
-// of the two source rows the next pass adds: the new rows are on their way while this pass
-// computes.
 // 3x3 and 5x5: one destination row per pass over blocks of 64 samples, then single vectors
 // and an overlapping last vector. A full block asks for its lines of the source row the next
 // row adds and for the destination lines two blocks ahead.
@@ -1038,6 +1032,13 @@ void Float32RowsUnrolled(const float* src, std::ptrdiff_t srcStep, float* dst, s
   }
 }
 
+// 32f rows: 3x3 and 5x5 as above; other kernels two destination rows per pass over blocks of
+// 32 samples, then single vectors and an overlapping last vector, an odd last row alone. Rows
+// under 8 samples and the scalar twin take FloatSum. `rev` is the kernel as the spec keeps it
+// (reversed).
+// A full block also asks for the destination lines two blocks ahead and for the block's lines
+// of the two source rows the next pass adds: the new rows are on their way while this pass
+// computes.
 template <int kCh, Isa kI>
 void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrdiff_t dstStep, int w, int h,
                  const Window& win, const float* rev) {
