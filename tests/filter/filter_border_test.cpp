@@ -74,8 +74,9 @@ void Member(Kind kind, int seed) {
               }
               const T got = dst.At(x, y, c);
               ASSERT_TRUE(!std::memcmp(&want, &got, sizeof(T)) || (want != want && got != got))
-                  << "type " << kDataType<T> << " C" << kCh << " kind " << kind << " k=" << k.width << "x" << k.height << " roi=" << roi.width << "x" << roi.height
-                  << " bt=" << bt << " at " << x << "," << y << "," << c << " want " << +want << " got " << +got;
+                  << "type " << kDataType<T> << " C" << kCh << " kind " << kind << " k=" << k.width << "x" << k.height
+                  << " roi=" << roi.width << "x" << roi.height << " bt=" << bt << " at " << x << "," << y << "," << c
+                  << " want " << +want << " got " << +got;
             }
         ASSERT_TRUE(dst.GuardsIntact());
       }

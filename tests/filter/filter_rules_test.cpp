@@ -69,7 +69,7 @@ TEST(FilterRoutes, FinalisersAndScalarTableAgainstTheirRules) {
   }
 }
 
-TEST(FilterInit, RoundFlagAndSetModeByKind) {
+TEST(FilterInit, CheckOrdersRoundFlagAndSetModeByKind) {
   alignas(64) unsigned char block[4096];
   const FilterBorderSpec* s = SpecAt(block + 1);
   const Tpx16s K[9] = {1, 2, 3, 4, 5, 6, 7, 8, 9};
@@ -99,14 +99,26 @@ TEST(FilterInit, RoundFlagAndSetModeByKind) {
     if (c[0] == 5 || c[2] == 5) EXPECT_EQ(c[0] == 5 ? 9 : 2, s->hint);  // 64f stores nothing
     if (c[3] == tpxOk && c[0] != 5) EXPECT_EQ(c[0] == 4 ? c[2] : c[2] * 3, s->offsetF) << c[0];  // offset * divisor, or as it is
   }
+  // Check orders of the three Init forms: {form (16s, 32f, 64f), kernel width, dataType,
+  // channels, roundMode, status}, every kernel 2 high and the divisor 0. 16s with one channel
+  // and the flag skips the type and channel tests: they already hold.
+  EXPECT_EQ(tpxErrNullPtr, tpxiFilterBorderInit_16s(nullptr, {0, 2}, 0, 99, 9, 99, block + 1));
+  const int orders[][6] = {{0, 0, 99, 9, 99, tpxErrSize}, {0, 2, 13, 9, 99, tpxErrDataType}, {0, 2, 1, 5, 99, tpxErrChannelCount},
+                           {0, 2, 1, 1, 3, tpxErrRoundMode}, {0, 2, 1, 1, 18, tpxErrZeroDivisorArg}, {0, 2, 7, 1, 16, tpxErrZeroDivisorArg},
+                           {1, 2, 19, 9, 99, tpxErrDataType}, {1, 2, 13, 0, 99, tpxErrChannelCount}, {1, 2, 13, 2, -1, tpxErrRoundMode},
+                           {2, 2, 13, 2, 0, tpxErrDataType}, {2, 2, 19, 2, 0, tpxErrChannelCount}, {2, 2, 19, 1, 0, tpxErrRoundMode},
+                           {2, 2, 19, 1, 17, tpxOk}};
+  for (auto& o : orders) {
+    const TpxSize k{o[1], 2};
+    EXPECT_EQ(o[5], o[0] == 0 ? tpxiFilterBorderInit_16s(K, k, 0, o[2], o[3], o[4], block + 1) : o[0] == 1 ? tpxiFilterBorderInit_32f(KF, k, o[2], o[3], o[4], block + 1)
+                                                                                              : tpxiFilterBorderInit_64f(KD, k, o[2], o[3], o[4], block + 1)) << &o - orders;
+  }
 }
 
 TEST(FilterChecks, Older64fFilter) {
   int size = -1;
-  EXPECT_EQ(tpxOk, tpxiFilterGetBufSize_64f_C1R({1, 3}, 16, &size));
-  EXPECT_EQ(96, size);
-  EXPECT_EQ(tpxOk, tpxiFilterGetBufSize_64f_C1R({1, 3}, 15, &size));
-  EXPECT_EQ(0, size);
+  EXPECT_TRUE(tpxiFilterGetBufSize_64f_C1R({1, 3}, 16, &size) == tpxOk && size == 96);
+  EXPECT_TRUE(tpxiFilterGetBufSize_64f_C1R({1, 3}, 15, &size) == tpxOk && size == 0);
   EXPECT_EQ(tpxErrNullPtr, tpxiFilterGetBufSize_64f_C1R({0, 3}, 15, nullptr));
   EXPECT_EQ(tpxErrSize, tpxiFilterGetBufSize_64f_C1R({0, 3}, 15, &size));
   double src[64] = {}, dst[8], k[4] = {1, 2, 3, 4};
@@ -115,28 +127,6 @@ TEST(FilterChecks, Older64fFilter) {
   EXPECT_EQ(tpxErrStep, tpxiFilter_64f_C1R(src, 39, dst, 32, {4, 1}, k, {2, 2}, {0, 0}, nullptr));  // needs 40
   EXPECT_EQ(tpxErrStep, tpxiFilter_64f_C1R(src, 40, dst, 31, {4, 1}, k, {2, 2}, {0, 0}, nullptr));
   EXPECT_EQ(tpxOk, tpxiFilter_64f_C1R(src + 9, 40, dst, 32, {4, 1}, k, {2, 2}, {1, 1}, nullptr));
-}
-
-TEST(FilterChecks, InitOrders) {
-  alignas(64) unsigned char block[4096];
-  const Tpx16s K[4] = {1, 1, 1, 1};
-  EXPECT_EQ(tpxErrNullPtr, tpxiFilterBorderInit_16s(nullptr, {0, 2}, 0, 99, 9, 99, block));
-  EXPECT_EQ(tpxErrSize, tpxiFilterBorderInit_16s(K, {0, 2}, 0, 99, 9, 99, block));
-  EXPECT_EQ(tpxErrDataType, tpxiFilterBorderInit_16s(K, {2, 2}, 0, 13, 9, 99, block));
-  EXPECT_EQ(tpxErrChannelCount, tpxiFilterBorderInit_16s(K, {2, 2}, 0, 1, 5, 99, block));
-  EXPECT_EQ(tpxErrRoundMode, tpxiFilterBorderInit_16s(K, {2, 2}, 0, 1, 1, 3, block));
-  EXPECT_EQ(tpxErrZeroDivisorArg, tpxiFilterBorderInit_16s(K, {2, 2}, 0, 1, 1, 18, block));
-  // 16s with one channel and the flag skips the type and channel tests: they already hold.
-  EXPECT_EQ(tpxErrZeroDivisorArg, tpxiFilterBorderInit_16s(K, {2, 2}, 0, 7, 1, 16, block));
-  const float KF[4] = {1, 1, 1, 1};
-  EXPECT_EQ(tpxErrDataType, tpxiFilterBorderInit_32f(KF, {2, 2}, 19, 9, 99, block));
-  EXPECT_EQ(tpxErrChannelCount, tpxiFilterBorderInit_32f(KF, {2, 2}, 13, 0, 99, block));
-  EXPECT_EQ(tpxErrRoundMode, tpxiFilterBorderInit_32f(KF, {2, 2}, 13, 2, -1, block));
-  const double KD[4] = {1, 1, 1, 1};
-  EXPECT_EQ(tpxErrDataType, tpxiFilterBorderInit_64f(KD, {2, 2}, 13, 2, 0, block));
-  EXPECT_EQ(tpxErrChannelCount, tpxiFilterBorderInit_64f(KD, {2, 2}, 19, 2, 0, block));
-  EXPECT_EQ(tpxErrRoundMode, tpxiFilterBorderInit_64f(KD, {2, 2}, 19, 1, 0, block));
-  EXPECT_EQ(tpxOk, tpxiFilterBorderInit_64f(KD, {2, 2}, 19, 1, 17, block));
 }
 
 TEST(FilterChecks, RunOrder) {
