@@ -55,15 +55,6 @@ struct Extended {
   }
 };
 
-// Exact correlation sum (long double holds every 8u/16u/16s sum exactly and float products).
-template <class T>
-long double Correlate(const Extended<T>& e, const std::vector<double>& k, int kw, int kh, int x, int y, int c) {
-  long double acc = 0;
-  for (int i = 0; i < kh; ++i)
-    for (int j = 0; j < kw; ++j) acc += static_cast<long double>(k[i * kw + j]) * e(x - ((kw - 1) >> 1) + j, y - ((kh - 1) >> 1) + i, c);
-  return acc;
-}
-
 // Rounding of an exact value to an integer: 0 toward zero, 1 half to even, 2 half away.
 inline long long RoundExact(long double v, int mode) {
   const long long f = static_cast<long long>(std::floor(v));
@@ -75,10 +66,8 @@ inline long long RoundExact(long double v, int mode) {
 
 template <class T>
 T Saturate(long long v) {
-  if constexpr (std::is_floating_point_v<T>)
-    return static_cast<T>(v);
-  else
-    return static_cast<T>(std::clamp<long long>(v, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()));
+  if constexpr (std::is_floating_point_v<T>) return static_cast<T>(v);
+  else return static_cast<T>(std::clamp<long long>(v, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()));
 }
 
 // Spec and buffer for one configuration, through the public size query, off any alignment.
@@ -94,12 +83,9 @@ struct Prepared {
   }
 };
 
-template <class T> constexpr int kDataType = 0;
-template <> constexpr int kDataType<Tpx8u> = 1;
-template <> constexpr int kDataType<Tpx16u> = 5;
-template <> constexpr int kDataType<Tpx16s> = 7;
-template <> constexpr int kDataType<Tpx32f> = 13;
-template <> constexpr int kDataType<Tpx64f> = 19;
+template <class T>
+constexpr int kDataType = std::is_same_v<T, Tpx8u> ? 1 : std::is_same_v<T, Tpx16u> ? 5 : std::is_same_v<T, Tpx16s> ? 7
+                        : std::is_same_v<T, Tpx32f> ? 13 : 19;
 
 // The exports by type and channel count.
 template <class T, int kCh>

@@ -1,6 +1,7 @@
 // Test images with canary bytes around the region of interest: before the first row, in the
 // padding of every row, and after the last row. Any step, any misalignment of the first sample.
 #pragma once
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -19,13 +20,12 @@ class GuardedImage {
   // row plus the padding); misalignSamples shifts the first sample off the 64-byte boundary.
   GuardedImage(int width, int height, int channels = 1, int padSamples = 0, int misalignSamples = 0,
                int guardBytes = 64)
-      : width_(width), height_(height), channels_(channels), guard_(guardBytes) {
-    rowBytes_ = static_cast<std::ptrdiff_t>(width) * channels * static_cast<std::ptrdiff_t>(sizeof(T));
-    step_ = rowBytes_ + static_cast<std::ptrdiff_t>(padSamples) * static_cast<std::ptrdiff_t>(sizeof(T));
-    offset_ = guard_ + static_cast<std::ptrdiff_t>(misalignSamples) * static_cast<std::ptrdiff_t>(sizeof(T));
-    const std::size_t total = static_cast<std::size_t>(offset_ + step_ * (height > 0 ? height : 0) + guard_ + 64);
-    buf_.assign(total + 64, kCanary);
-    base_ = buf_.data() + ((0u - reinterpret_cast<std::uintptr_t>(buf_.data())) & 63u);
+      : width_(width), height_(height), channels_(channels),
+        rowBytes_(static_cast<std::ptrdiff_t>(width) * channels * static_cast<std::ptrdiff_t>(sizeof(T))),
+        step_(rowBytes_ + static_cast<std::ptrdiff_t>(padSamples) * static_cast<std::ptrdiff_t>(sizeof(T))),
+        offset_(guardBytes + static_cast<std::ptrdiff_t>(misalignSamples) * static_cast<std::ptrdiff_t>(sizeof(T))),
+        buf_(static_cast<std::size_t>(offset_ + step_ * (height > 0 ? height : 0) + guardBytes + 128), kCanary),
+        base_(buf_.data() + ((0u - reinterpret_cast<std::uintptr_t>(buf_.data())) & 63u)) {
     for (int y = 0; y < height; ++y) std::memset(Row(y), 0, static_cast<std::size_t>(rowBytes_));
   }
 
@@ -45,13 +45,11 @@ class GuardedImage {
 
   // True if every byte outside the region still holds the canary.
   bool GuardsIntact() const {
-    const unsigned char* end = buf_.data() + buf_.size();
     const unsigned char* p = base_;
     for (int y = 0; y <= height_; ++y) {
-      const unsigned char* stop = (y < height_) ? reinterpret_cast<const unsigned char*>(Row(y)) : end;
-      for (; p < stop; ++p)
-        if (*p != kCanary) return false;
-      if (y < height_) p += rowBytes_;
+      const unsigned char* stop = y < height_ ? reinterpret_cast<const unsigned char*>(Row(y)) : buf_.data() + buf_.size();
+      if (std::any_of(p, stop, [](unsigned char b) { return b != kCanary; })) return false;
+      p = stop + rowBytes_;
     }
     return true;
   }
@@ -70,7 +68,7 @@ class GuardedImage {
 
  private:
   int width_, height_, channels_;
-  std::ptrdiff_t guard_, rowBytes_, step_, offset_;
+  std::ptrdiff_t rowBytes_, step_, offset_;
   std::vector<unsigned char> buf_;
   unsigned char* base_;
 };
