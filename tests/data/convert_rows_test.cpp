@@ -13,11 +13,9 @@
 namespace {
 
 using namespace tpx::cvt;
-using cvttest::FloatValues;
-using cvttest::IntValues;
+using namespace cvttest;
 using tpx::Isa;
 using tpx::RoundKind;
-using tpxtest::Rng;
 
 // A row of exactly n samples (the allocation ends with it), `mis` samples into the allocation.
 template <class T>
@@ -28,7 +26,7 @@ struct ExactRow {
 };
 
 template <class Op>
-void Twin(const std::string& name, const Op& op, const cvttest::Values<typename Op::Src>& values, Rng& rng) {
+void Twin(const std::string& name, const Op& op, const Values<typename Op::Src>& values, Rng& rng) {
   using S = typename Op::Src;
   using D = typename Op::Dst;
   std::vector<int> lengths = {64, 97, 195, 260, 1001};  // groups of four blocks, blocks after one, long rows
@@ -54,21 +52,20 @@ void Twin(const std::string& name, const Op& op, const cvttest::Values<typename 
       ConvertRowAc4<Isa::kAvx>(src.p, a.p, n / 4, op);
       ASSERT_EQ(std::memcmp(a.p, b.p, sizeof(D) * n), 0) << name << " AC4 n=" << n;
       for (int i = 0; i < n; ++i)
-        ASSERT_TRUE(cvttest::Same(a.p[i], i % 4 == 3 ? before[i] : ref.p[i])) << name << " AC4 sample " << i;
+        ASSERT_TRUE(Same(a.p[i], i % 4 == 3 ? before[i] : ref.p[i])) << name << " AC4 sample " << i;
     }
 }
 
 // Calls f(kind constant, name suffix) for each of the three rounding kinds.
 template <class F>
 void ForEachKind(F&& f) {
-  tpx::WithRoundKind(RoundKind::kZero, [&](auto k) { f(k, " zero"); });
-  tpx::WithRoundKind(RoundKind::kNearest, [&](auto k) { f(k, " nearest"); });
-  tpx::WithRoundKind(RoundKind::kHalfAway, [&](auto k) { f(k, " away"); });
+  for (RoundKind k : {RoundKind::kZero, RoundKind::kNearest, RoundKind::kHalfAway})
+    tpx::WithRoundKind(k, [&](auto kc) { f(kc, " kind " + std::to_string(static_cast<int>(k))); });
 }
 
 template <class F, class D>
 void FloatTwins(const std::string& name, Rng& rng) {
-  ForEachKind([&](auto k, const char* kind) {
+  ForEachKind([&](auto k, const std::string& kind) {
     constexpr RoundKind kR = decltype(k)::value;
     const tpx::FloatToIntScope scope(kR);
     Twin(name + kind, FloatOp<F, D, kR, false>{}, FloatValues<F, D>(), rng);
@@ -82,7 +79,7 @@ void FloatTwins(const std::string& name, Rng& rng) {
 
 template <class S, class D>
 void IntSfsTwins(const std::string& name, Rng& rng) {
-  ForEachKind([&](auto k, const char* kind) {
+  ForEachKind([&](auto k, const std::string& kind) {
     for (int sf : {1, 2, 5, 8, 15, kSfsZeroLimit<S> - 1})
       if (sf < kSfsZeroLimit<S>)
         Twin(name + kind + " sf " + std::to_string(sf), ShiftRightOp<S, D, decltype(k)::value>(sf),

@@ -1,10 +1,11 @@
-// Test data and the image sweep shared by the Convert and Scale tests: values at and next to
-// every saturation bound and rounding tie, and a sweep that compares every destination sample
-// with a model, with guard bands, AC4 alpha and the caller's rounding control checked.
+// Shared by the Convert and Scale tests: plain reference models written with wide exact
+// arithmetic (double, 128-bit integers), test values at and next to every saturation bound and
+// rounding tie, the image sweep against a model and the two-fault check order.
 #pragma once
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <cstring>
@@ -24,6 +25,57 @@ namespace cvttest {
 using tpxtest::GuardedImage;
 using tpxtest::Rng;
 
+// ---- Models ----
+// Saturates an exact value to D; a float D rounds once in the current rounding control.
+template <class D>
+D Clamp(double r) {
+  if (r >= static_cast<double>(std::numeric_limits<D>::max())) return std::numeric_limits<D>::max();
+  if (r <= static_cast<double>(std::numeric_limits<D>::lowest())) return std::numeric_limits<D>::lowest();
+  return static_cast<D>(r);
+}
+
+// 2^-sf as repeated halving/doubling in F reaches it: exact while representable, then 0 or inf.
+template <class F>
+F Multiplier(int sf) {
+  const long long e = -static_cast<long long>(sf);
+  if (e < std::numeric_limits<F>::min_exponent - std::numeric_limits<F>::digits) return F(0);  // below 2^-149
+  if (e >= std::numeric_limits<F>::max_exponent) return std::numeric_limits<F>::infinity();
+  return std::ldexp(F(1), static_cast<int>(e));
+}
+
+// Rounds by mode: 0 truncate, 1 half to even, other half away from zero.
+inline double RoundBy(double y, int mode) {
+  if (mode == 0 || !std::isfinite(y)) return std::trunc(y);
+  if (mode == 1 && std::fabs(y - std::trunc(y)) == 0.5) return 2 * std::round(y / 2);
+  return std::round(y);
+}
+
+// Float to integer: x * 2^-sf in F, NaN gives the maximum, round by mode, saturate.
+template <class F, class D>
+D FloatRule(F x, int mode, int sf) {
+  if (sf != 0) x = x * Multiplier<F>(sf);
+  return std::isnan(x) ? std::numeric_limits<D>::max() : Clamp<D>(RoundBy(static_cast<double>(x), mode));
+}
+
+// Integer source: s * 2^-sf is exact in double (33-bit samples), rounded by mode, saturated.
+template <class S, class D>
+D IntSfs(S s, int mode, int sf) {
+  return Clamp<D>(RoundBy(std::ldexp(static_cast<double>(s), -std::clamp(sf, -200, 200)), mode));
+}
+
+// Integer Scale, exactly: dMin + round_half_even((s - sMin) * dRange / sRange).
+template <class S, class D>
+D ScaleExact(S s) {
+  const __int128 sMin = std::numeric_limits<S>::lowest(), sRange = std::numeric_limits<S>::max() - sMin;
+  const __int128 dMin = std::numeric_limits<D>::lowest(), dRange = std::numeric_limits<D>::max() - dMin;
+  const __int128 num = (static_cast<__int128>(s) - sMin) * dRange;
+  __int128 q = num / sRange;
+  const __int128 r2 = 2 * (num % sRange);
+  if (r2 > sRange || (r2 == sRange && (q & 1))) ++q;
+  return static_cast<D>(dMin + q);
+}
+
+// ---- Values ----
 // Special values drawn with probability 0.3, a random draw otherwise.
 template <class S>
 struct Values {
@@ -91,6 +143,7 @@ Values<F> FloatValues(int sf = 0) {
   return v;
 }
 
+// ---- Calls ----
 // Samples equal bit for bit (NaN payloads included).
 template <class T>
 bool Same(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
@@ -98,15 +151,21 @@ bool Same(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
 // MXCSR without the exception flags: rounding direction, masks, flush-to-zero, denormals-are-zero.
 inline unsigned Control() { return _mm_getcsr() & ~0x3Fu; }
 
-// The four rounding directions a caller may leave in MXCSR.
-inline const unsigned kCallerModes[] = {_MM_ROUND_NEAREST, _MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO};
+// Runs f(direction) with each of the four rounding directions a caller may leave in MXCSR.
+template <class F>
+void ForCallerModes(F&& f) {
+  const unsigned saved = _mm_getcsr();
+  for (unsigned mode : {_MM_ROUND_NEAREST, _MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO}) {
+    _mm_setcsr((saved & ~_MM_ROUND_MASK) | mode);
+    f(mode);
+  }
+  _mm_setcsr(saved);
+}
 
-// Every `every`-th shape and the last: for the wide parameter sweeps.
-inline std::vector<tpxtest::Shape> Thin(const std::vector<tpxtest::Shape>& all, int every = 4) {
-  std::vector<tpxtest::Shape> out;
-  for (std::size_t i = 0; i < all.size(); i += every) out.push_back(all[i]);
-  out.push_back(all.back());
-  return out;
+// An export with its trailing arguments bound: call(src, srcStep, dst, dstStep, roi).
+template <class Fn, class... A>
+auto Bind(Fn fn, A... a) {
+  return [=](auto s, int ss, auto d, int ds, TpxSize r) { return fn(s, ss, d, ds, r, a...); };
 }
 
 // Runs call(src, srcStep, dst, dstStep, roi) on every shape with random sources, and checks
@@ -131,8 +190,8 @@ void Sweep(const std::string& name, int channels, bool ac4, const std::vector<tp
     for (int y = 0; y < sh.height; ++y)
       for (int i = 0; i < dst.RowSamples(); ++i) {
         const D got = dst.Row(y)[i];
-        const std::size_t k = static_cast<std::size_t>(y) * dst.RowSamples() + i;
-        const D want = ac4 && i % 4 == 3 ? before[k] : model(src.Row(y)[i]);
+        const D want = ac4 && i % 4 == 3 ? before[static_cast<std::size_t>(y) * dst.RowSamples() + i]
+                                         : model(src.Row(y)[i]);
         ASSERT_TRUE(Same(got, want)) << name << " w=" << sh.width << " h=" << sh.height << " at (" << i << "," << y
                                      << ") src=" << +src.Row(y)[i] << " got=" << +got << " want=" << +want;
       }
