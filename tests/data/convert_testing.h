@@ -8,12 +8,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
-#include <cstring>
 #include <functional>
-#include <limits>
-#include <string>
-#include <type_traits>
-#include <vector>
 
 #include "support/image.h"
 #include "support/random.h"
@@ -66,13 +61,11 @@ D IntSfs(S s, int mode, int sf) {
 // Integer Scale, exactly: dMin + round_half_even((s - sMin) * dRange / sRange).
 template <class S, class D>
 D ScaleExact(S s) {
-  const __int128 sMin = std::numeric_limits<S>::lowest(), sRange = std::numeric_limits<S>::max() - sMin;
-  const __int128 dMin = std::numeric_limits<D>::lowest(), dRange = std::numeric_limits<D>::max() - dMin;
-  const __int128 num = (static_cast<__int128>(s) - sMin) * dRange;
-  __int128 q = num / sRange;
-  const __int128 r2 = 2 * (num % sRange);
-  if (r2 > sRange || (r2 == sRange && (q & 1))) ++q;
-  return static_cast<D>(dMin + q);
+  using LS = std::numeric_limits<S>;
+  using LD = std::numeric_limits<D>;
+  const __int128 sRange = static_cast<__int128>(LS::max()) - LS::lowest(), dRange = static_cast<__int128>(LD::max()) - LD::lowest();
+  const __int128 num = (static_cast<__int128>(s) - LS::lowest()) * dRange, q = num / sRange, r2 = 2 * (num % sRange);
+  return static_cast<D>(LD::lowest() + q + (r2 > sRange || (r2 == sRange && (q & 1))));
 }
 
 // ---- Values ----
@@ -86,19 +79,20 @@ struct Values {
   }
 };
 
-// Adds c-1, c, c+1 for each c = (b + off) * 2^e over the bounds of D, small values and halves.
+// Adds c-1, c, c+1 (floats: each with both neighbours) for each c = (b + off) * 2^e over the
+// bounds of D, small values and halves.
 template <class S, class D>
 void AddNear(Values<S>& v, std::vector<long double> bases, int e) {
-  const long double lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
-  bases.insert(bases.end(), {lo, hi, 0.0L, 1.0L, -1.0L, 2.0L, -2.0L, 3.0L, -3.0L});
+  using L = std::numeric_limits<S>;
+  bases.insert(bases.end(), {std::numeric_limits<D>::lowest(), std::numeric_limits<D>::max(), 0, 1, -1, 2, -2, 3, -3});
   for (long double b : bases)
-    for (long double off : {-1.0L, -0.5L, 0.0L, 0.5L, 1.0L}) {
-      const long double c = std::ldexp(b + off, e);
-      for (long double x : {c - 1, c, c + 1})
-        if (std::is_floating_point_v<S> || (x >= std::numeric_limits<S>::lowest() &&
-                                            x <= std::numeric_limits<S>::max()))
+    for (long double off : {-1.0L, -0.5L, 0.0L, 0.5L, 1.0L})
+      for (long double x : {std::ldexp(b + off, e) - 1, std::ldexp(b + off, e), std::ldexp(b + off, e) + 1}) {
+        if constexpr (std::is_floating_point_v<S>)
+          v.special.insert(v.special.end(), {S(x), std::nextafter(S(x), L::infinity()), std::nextafter(S(x), -L::infinity())});
+        else if (x >= L::lowest() && x <= L::max())
           v.special.push_back(static_cast<S>(x));
-    }
+      }
 }
 
 // Integer samples for destination D and scale factor sf: the full range, values whose scaled
@@ -131,10 +125,7 @@ Values<F> FloatValues(int sf = 0) {
               -L::denorm_min(), F(0.49999997f), F(-0.49999997f)})
     v.special.push_back(x);
   const int e = sf > -100 && sf < 100 ? sf : 0;
-  Values<F> near;
-  AddNear<F, D>(near, {2147483648.0L, -2147483648.0L, 4294967296.0L, 16777216.0L}, e);
-  for (F c : near.special)
-    for (F x : {c, std::nextafter(c, L::infinity()), std::nextafter(c, -L::infinity())}) v.special.push_back(x);
+  AddNear<F, D>(v, {2147483648.0L, -2147483648.0L, 4294967296.0L, 16777216.0L}, e);
   const double lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
   v.random = [lo, hi, e](Rng& r) {
     const double x = r.Real(lo - 300.0, hi + 300.0);
