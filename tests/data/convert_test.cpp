@@ -20,8 +20,8 @@ constexpr int kV = 16;  // samples of one vector step of every row kernel here
 
 const std::vector<int> kFloatSfs = {0, 1, 2, 3, 5, 8, 15, 16, 17, 24, 31, 32, 33, 40, 126, 127, 149, 150, 200, INT_MAX,
                                     -1, -2, -5, -8, -15, -16, -24, -31, -32, -126, -127, -128, -200, INT_MIN};
-const int kIntSfs[] = {0, 1, 2, 3, 7, 8, 9, 10, 11, 14, 15, 16, 17, 18, 19, 30, 31, 32, 33, 34, 35, 100, INT_MAX,
-                       -1, -2, -6, -7, -8, -14, -15, -16, -30, -31, -32, -100, INT_MIN};
+const std::vector<int> kIntSfs = {0, 1, 2, 3, 7, 8, 9, 10, 11, 14, 15, 16, 17, 18, 19, 30, 31, 32, 33, 34, 35, 100, INT_MAX,
+                                  -1, -2, -6, -7, -8, -14, -15, -16, -30, -31, -32, -100, INT_MIN};
 
 // Every `every`-th shape and the last: for the wide parameter sweeps.
 std::vector<tpxtest::Shape> Thin(int every) {
@@ -40,40 +40,36 @@ void PlainCase(const std::string& name, Fn fn, Rng& rng) {
     ForCallerModes([&](unsigned) { Sweep<S, D>(name + " caller", 1, false, Thin(4), IntValues<S, D>(), fn, model, rng); });
 }
 
-// One float member for every rounding mode and scale factor given, the caller's rounding control
-// each of the four directions (with more than four factors, the others run sf 0 only).
-template <class F, class D, Layout kL, class Call>
-void FloatCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes,
-               Rng& rng) {
+// One rounding member for every mode and scale factor given; float sources also under each of
+// the caller's four rounding directions (with more than four factors, sf 0 only there).
+template <class S, class D, Layout kL, class Call>
+void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes,
+                Rng& rng) {
+  constexpr bool kFloat = std::is_floating_point_v<S>;
   const auto bind = [call](int mode, int sf) {  // members without a scale factor take the mode only
-    if constexpr (std::is_invocable_v<Call, const F*, int, D*, int, TpxSize, int, int>) return Bind(call, mode, sf);
+    if constexpr (std::is_invocable_v<Call, const S*, int, D*, int, TpxSize, int, int>) return Bind(call, mode, sf);
     else return Bind(call, mode);
   };
-  if constexpr (std::is_pointer_v<Call>) OrderCase<F, D>(name, false, bind(99, INT_MIN));  // exports only
+  if constexpr (std::is_pointer_v<Call>) OrderCase<S, D>(name, false, bind(99, INT_MIN));  // exports only
   const auto all = tpxtest::Shapes(kV), thin = Thin(6);
   ForCallerModes([&](unsigned caller) {
     for (int mode : modes)
       for (int sf : sfs) {
-        const bool wide = caller == _MM_ROUND_NEAREST && (mode == 1 || mode == 2) && (sf == 0 || sf == 3);
-        const auto m = [&](F x) { return FloatRule<F, D>(x, mode, sf); };
-        const std::string where = " mode " + std::to_string(mode) + " sf " + std::to_string(sf);
-        Sweep<F, D>(name + where + " caller " + std::to_string(caller), tpx::Stride(kL), kL == Layout::AC4,
-                    wide ? all : thin, FloatValues<F, D>(sf), bind(mode, sf), m, rng);
-        if (caller != _MM_ROUND_NEAREST && sfs.size() > 4) break;
+        if (caller != _MM_ROUND_NEAREST && (!kFloat || (sf != 0 && sfs.size() > 4))) continue;
+        const bool wide = caller == _MM_ROUND_NEAREST && (mode == 1 || mode == 2) && (sf == 0 || sf == 1 || sf == 3);
+        const auto model = [&](S x) {
+          if constexpr (kFloat) return FloatRule<S, D>(x, mode, sf);
+          else return IntSfs<S, D>(x, mode, sf);
+        };
+        const auto values = [&] {
+          if constexpr (kFloat) return FloatValues<S, D>(sf);
+          else return IntValues<S, D>(sf);
+        };
+        Sweep<S, D>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf) + " caller " +
+                    std::to_string(caller), tpx::Stride(kL), kL == Layout::AC4, wide ? all : thin, values(),
+                    bind(mode, sf), model, rng);
       }
   });
-}
-
-template <class S, class D, class Fn>
-void IntSfsCase(const std::string& name, Fn fn, Rng& rng) {
-  OrderCase<S, D>(name, false, Bind(fn, -3, INT_MIN));
-  const auto all = tpxtest::Shapes(kV), thin = Thin(6);
-  for (int sf : kIntSfs)
-    for (int mode : {0, 1, 2, -5}) {
-      const auto m = [&](S s) { return IntSfs<S, D>(s, mode, sf); };
-      Sweep<S, D>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf), 1, false,
-                  sf == 1 || sf == 3 ? all : thin, IntValues<S, D>(sf), Bind(fn, mode, sf), m, rng);
-    }
 }
 
 TEST(Convert, EveryMemberMatchesTheModel) {
@@ -85,22 +81,22 @@ TEST(Convert, EveryMemberMatchesTheModel) {
   TPX_CONVERT_PLAIN_4L(TPX_T_PLAIN_ALL)
   TPX_CONVERT_PLAIN_C1(TPX_T_PLAIN_ONE)
   TPX_CONVERT_RS(TPX_T_RS)
-#define TPX_T_ISFS(S, D) IntSfsCase<Tpx##S, Tpx##D>(#S #D "_C1RSfs", tpxiConvert_##S##D##_C1RSfs, rng);
-  TPX_CONVERT_INT_SFS(TPX_T_ISFS)
 #define TPX_T_ROUND(S, D, L)                                                                                  \
-  FloatCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", tpxiConvert_##S##D##_##L##R, {0}, {0, 1, 2, 3, -1, 16, 17}, rng);
+  ScaledCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", tpxiConvert_##S##D##_##L##R, {0}, {0, 1, 2, 3, -1, 16, 17}, rng);
 #define TPX_T_ROUND_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_ROUND, S, D)
   TPX_CONVERT_ROUND_4L(TPX_T_ROUND_ALL)
-#define TPX_T_FSFS(S, D)                                                                                     \
-  FloatCase<Tpx##S, Tpx##D, Layout::C1>(#S #D "_C1RSfs", tpxiConvert_##S##D##_C1RSfs, kFloatSfs, {0, 1, 2, 17}, rng);
-  TPX_CONVERT_FLOAT_SFS(TPX_T_FSFS)
+#define TPX_T_SFS(S, D)                                                                                      \
+  ScaledCase<Tpx##S, Tpx##D, Layout::C1>(#S #D "_C1RSfs", tpxiConvert_##S##D##_C1RSfs,                          \
+                                         std::is_floating_point_v<Tpx##S> ? kFloatSfs : kIntSfs, {0, 1, 2, 17}, rng);
+  TPX_CONVERT_FLOAT_SFS(TPX_T_SFS)
+  TPX_CONVERT_INT_SFS(TPX_T_SFS)
   // In place: the float samples are stored in the destination before the call.
   const auto inPlace = [](const Tpx32f* s, int ss, Tpx32u* d, int ds, TpxSize r, int mode, int sf) {
     for (int y = 0; y < r.height; ++y)
       std::memcpy(reinterpret_cast<char*>(d) + y * ds, reinterpret_cast<const char*>(s) + y * ss, 4 * r.width);
     return tpxiConvert_32f32u_C1IRSfs(d, ds, r, mode, sf);
   };
-  FloatCase<Tpx32f, Tpx32u, Layout::C1>("32f32u_C1IRSfs", inPlace, {0, 1, 7, 31, 32, 33, 150, -1, -8, -31, -200},
+  ScaledCase<Tpx32f, Tpx32u, Layout::C1>("32f32u_C1IRSfs", inPlace, {0, 1, 7, 31, 32, 33, 150, -1, -8, -31, -200},
                                         {0, 1, 2, 16}, rng);
   Tpx32u img[8] = {};
   EXPECT_EQ(tpxiConvert_32f32u_C1IRSfs(nullptr, 0, TpxSize{0, 0}, 0, 0), tpxErrNullPtr);
