@@ -13,7 +13,6 @@
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
-#include "tpxip/types.h"
 
 namespace cvttest {
 
@@ -24,18 +23,16 @@ using tpxtest::Rng;
 // Saturates an exact value to D; a float D rounds once in the current rounding control.
 template <class D>
 D Clamp(double r) {
-  if (r >= static_cast<double>(std::numeric_limits<D>::max())) return std::numeric_limits<D>::max();
-  if (r <= static_cast<double>(std::numeric_limits<D>::lowest())) return std::numeric_limits<D>::lowest();
-  return static_cast<D>(r);
+  using L = std::numeric_limits<D>;
+  return r >= static_cast<double>(L::max()) ? L::max() : r <= static_cast<double>(L::lowest()) ? L::lowest() : D(r);
 }
 
 // 2^-sf as repeated halving/doubling in F reaches it: exact while representable, then 0 or inf.
 template <class F>
 F Multiplier(int sf) {
-  const long long e = -static_cast<long long>(sf);
-  if (e < std::numeric_limits<F>::min_exponent - std::numeric_limits<F>::digits) return F(0);  // below 2^-149
-  if (e >= std::numeric_limits<F>::max_exponent) return std::numeric_limits<F>::infinity();
-  return std::ldexp(F(1), static_cast<int>(e));
+  using L = std::numeric_limits<F>;
+  const long long e = -static_cast<long long>(sf);  // zero below the least subnormal, 2^-149 for float
+  return e < L::min_exponent - L::digits ? F(0) : e >= L::max_exponent ? L::infinity() : std::ldexp(F(1), int(e));
 }
 
 // Rounds by mode: 0 truncate, 1 half to even, other half away from zero.

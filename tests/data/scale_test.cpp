@@ -41,17 +41,18 @@ void LimitsCase(const std::string& name, Fn fn, Rng& rng) {
   }
 }
 
-TEST(ScaleLimits, EndpointsAndRounding) {
+// Worked values that pin the models: the endpoints, and on [-2, 3] (slope 51, offset 102) 1 maps to
+// 153, 1.5 to 178.5 which rounds half to even, NaN stores the maximum and the rest saturates.
+TEST(ScaleLimits, WorkedValues) {
   const Tpx8u s[] = {0, 255};
   float d[2];
   ASSERT_EQ(tpxiScale_8u32f_C1R(s, 2, d, 8, TpxSize{2, 1}, -2.0f, 3.0f), tpxOk);
-  EXPECT_EQ(d[0], -2.0f);  // vMin exactly
+  EXPECT_EQ(d[0], -2.0f);
   EXPECT_NEAR(d[1], 3.0f, 1e-6f);
-  const float f[] = {-2.0f, 3.0f, 0.5f, std::numeric_limits<float>::quiet_NaN(), -1e30f, 1e30f};
-  Tpx8u u[6];
-  ASSERT_EQ(tpxiScale_32f8u_C1R(f, 24, u, 6, TpxSize{6, 1}, -2.0f, 3.0f), tpxOk);
-  // 0.5 maps to 127.5, which rounds half to even; NaN stores the maximum.
-  EXPECT_EQ(std::vector<Tpx8u>(u, u + 6), (std::vector<Tpx8u>{0, 255, 128, 255, 0, 255}));
+  const float f[] = {-2.0f, 3.0f, 1.0f, 1.5f, std::numeric_limits<float>::quiet_NaN(), -1e30f, 1e30f};
+  Tpx8u u[7];
+  ASSERT_EQ(tpxiScale_32f8u_C1R(f, 28, u, 7, TpxSize{7, 1}, -2.0f, 3.0f), tpxOk);
+  EXPECT_EQ(std::vector<Tpx8u>(u, u + 7), (std::vector<Tpx8u>{0, 255, 153, 178, 255, 0, 255}));
 }
 
 template <class S, class D, Layout kL, class Fn>
