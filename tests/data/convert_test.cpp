@@ -16,8 +16,6 @@ namespace {
 using namespace cvttest;
 using tpx::Layout;
 
-constexpr int kV = 16;  // samples of one vector step of every row kernel here
-
 const std::vector<int> kFloatSfs = {0, 1, 2, 3, 5, 8, 15, 16, 17, 24, 31, 32, 33, 40, 126, 127, 149, 150, 200, INT_MAX,
                                     -1, -2, -5, -8, -15, -16, -24, -31, -32, -126, -127, -128, -200, INT_MIN};
 const std::vector<int> kIntSfs = {0, 1, 2, 3, 7, 8, 9, 10, 11, 14, 15, 16, 17, 18, 19, 30, 31, 32, 33, 34, 35, 100, INT_MAX,
@@ -25,7 +23,7 @@ const std::vector<int> kIntSfs = {0, 1, 2, 3, 7, 8, 9, 10, 11, 14, 15, 16, 17, 1
 
 // Every `every`-th shape and the last: for the wide parameter sweeps.
 std::vector<tpxtest::Shape> Thin(int every) {
-  std::vector<tpxtest::Shape> all = tpxtest::Shapes(kV), out;
+  std::vector<tpxtest::Shape> all = tpxtest::Shapes(16), out;
   for (std::size_t i = 0; i < all.size(); i += every) out.push_back(all[i]);
   out.push_back(all.back());
   return out;
@@ -35,9 +33,9 @@ template <class S, class D, Layout kL, class Fn>
 void PlainCase(const std::string& name, Fn fn, Rng& rng) {
   OrderCase<S, D>(name, true, fn);
   const auto model = [](S s) { return Clamp<D>(s); };
-  Sweep<S, D>(name, tpx::Stride(kL), kL == Layout::AC4, tpxtest::Shapes(kV), IntValues<S, D>(), fn, model, rng);
+  Sweep<S, D, kL>(name, IntValues<S, D>(), fn, model, rng);
   if constexpr (std::is_same_v<D, Tpx32f> && sizeof(S) == 4)  // rounds in the caller's control
-    ForCallerModes([&](unsigned) { Sweep<S, D>(name + " caller", 1, false, Thin(4), IntValues<S, D>(), fn, model, rng); });
+    ForCallerModes([&](unsigned) { Sweep<S, D, Layout::C1>(name + " caller", IntValues<S, D>(), fn, model, rng, Thin(4)); });
 }
 
 // One rounding member for every mode and scale factor given; float sources also under each of
@@ -51,7 +49,7 @@ void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs,
     else return Bind(call, mode);
   };
   if constexpr (std::is_pointer_v<Call>) OrderCase<S, D>(name, false, bind(99, INT_MIN));  // exports only
-  const auto all = tpxtest::Shapes(kV), thin = Thin(6);
+  const auto all = tpxtest::Shapes(16), thin = Thin(6);
   ForCallerModes([&](unsigned caller) {
     for (int mode : modes)
       for (int sf : sfs) {
@@ -65,9 +63,8 @@ void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs,
           if constexpr (kFloat) return FloatValues<S, D>(sf);
           else return IntValues<S, D>(sf);
         };
-        Sweep<S, D>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf) + " caller " +
-                    std::to_string(caller), tpx::Stride(kL), kL == Layout::AC4, wide ? all : thin, values(),
-                    bind(mode, sf), model, rng);
+        Sweep<S, D, kL>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf) + " caller " +
+                        std::to_string(caller), values(), bind(mode, sf), model, rng, wide ? all : thin);
       }
   });
 }

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <functional>
 
+#include "core/layout.h"
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
@@ -152,12 +153,14 @@ auto Bind(Fn fn, A... a) {
   return [=](auto s, int ss, auto d, int ds, TpxSize r) { return fn(s, ss, d, ds, r, a...); };
 }
 
-// Runs call(src, srcStep, dst, dstStep, roi) on every shape with random sources, and checks
+// Runs call(src, srcStep, dst, dstStep, roi) in layout kL on every shape (by default those of the
+// 16-sample steps every row kernel here takes) with random sources, and checks
 // tpxOk, every sample against model(sourceSample), AC4 alpha and guard bytes kept, and the
 // caller's rounding control left as it was.
-template <class S, class D, class Call, class Model>
-void Sweep(const std::string& name, int channels, bool ac4, const std::vector<tpxtest::Shape>& shapes,
-           const Values<S>& values, Call&& call, Model&& model, Rng& rng) {
+template <class S, class D, tpx::Layout kL, class Call, class Model>
+void Sweep(const std::string& name, const Values<S>& values, Call&& call, Model&& model, Rng& rng,
+           const std::vector<tpxtest::Shape>& shapes = tpxtest::Shapes(16)) {
+  const int channels = tpx::Stride(kL);
   for (const tpxtest::Shape& sh : shapes) {
     GuardedImage<S> src(sh.width, sh.height, channels, sh.padSamples, sh.misalign);
     GuardedImage<D> dst(sh.width, sh.height, channels, (sh.padSamples * 3) % 19, (sh.misalign + 1) % 4);
@@ -173,7 +176,7 @@ void Sweep(const std::string& name, int channels, bool ac4, const std::vector<tp
     for (int y = 0; y < sh.height; ++y)
       for (int i = 0; i < dst.RowSamples(); ++i) {
         const D got = dst.Row(y)[i];
-        const D want = ac4 && i % 4 == 3 ? static_cast<D>((y + i) % 101) : model(src.Row(y)[i]);
+        const D want = kL == tpx::Layout::AC4 && i % 4 == 3 ? static_cast<D>((y + i) % 101) : model(src.Row(y)[i]);
         ASSERT_TRUE(Same(got, want)) << name << " w=" << sh.width << " h=" << sh.height << " at (" << i << "," << y
                                      << ") src=" << +src.Row(y)[i] << " got=" << +got << " want=" << +want;
       }

@@ -36,8 +36,7 @@ void LimitsCase(const std::string& name, Fn fn, Rng& rng) {
       values = FloatValues<S, Tpx8u>();
       values.random = [&](Rng& r) { return static_cast<S>(vMin + r.Real(-0.2, 1.2) * static_cast<double>(range)); };
     }
-    Sweep<S, D>(name, tpx::Stride(kL), kL == Layout::AC4, tpxtest::Shapes(16), values, Bind(fn, vMin, vMax), model,
-                rng);
+    Sweep<S, D, kL>(name, values, Bind(fn, vMin, vMax), model, rng);
   }
 }
 
@@ -73,7 +72,7 @@ void HintCase(const std::string& name, Fn fn, Rng& rng) {
       return fast ? FloatRule<float, D>(static_cast<float>(s) * (255.0f / 4294967296.0f) + 127.5f, 1, 0)
                   : ScaleExact<S, D>(s);
     };
-    Sweep<S, D>(name, tpx::Stride(kL), kL == Layout::AC4, tpxtest::Shapes(16), values, Bind(fn, hint), model, rng);
+    Sweep<S, D, kL>(name, values, Bind(fn, hint), model, rng);
   }
 }
 
