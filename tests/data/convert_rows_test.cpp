@@ -66,24 +66,24 @@ void SfsTwins(const std::string& name, Rng& rng) {
       const std::string at = name + " kind " + std::to_string(static_cast<int>(kR)) + " sf ";
       if constexpr (std::is_floating_point_v<S>) {
         const tpx::FloatToIntScope scope(kR);
-        Twin(at + "0", FloatOp<S, D, kR, false>{}, FloatValues<S, D>(), rng);
+        Twin(at + "0", FloatOp<S, D, kR, false>{}, ValuesFor<S, D>(), rng);
         for (int sf : {3, -5, 200, -2000})
-          Twin(at + std::to_string(sf), FloatOp<S, D, kR, true>{Multiplier<S>(sf)}, FloatValues<S, D>(sf), rng);
+          Twin(at + std::to_string(sf), FloatOp<S, D, kR, true>{Multiplier<S>(sf)}, ValuesFor<S, D>(sf), rng);
       } else {
         for (int sf : {1, 2, 5, 8, 15, kSfsZeroLimit<S> - 1})
-          if (sf < kSfsZeroLimit<S>) Twin(at + std::to_string(sf), ShiftRightOp<S, D, kR>(sf), IntValues<S, D>(sf), rng);
+          if (sf < kSfsZeroLimit<S>) Twin(at + std::to_string(sf), ShiftRightOp<S, D, kR>(sf), ValuesFor<S, D>(sf), rng);
       }
     });
   if constexpr (!std::is_floating_point_v<S>) {
     for (int k = 1, max = -kSfsNegLimit<D>; k <= max; k = k == max ? max + 1 : std::min(max, k + (k < 3 ? 1 : 4)))
-      Twin(name + " shl " + std::to_string(k), ShiftLeftOp<S, D>{k}, IntValues<S, D>(-k), rng);
-    Twin(name + " sign", SignOp<S, D>{}, IntValues<S, D>(), rng);
+      Twin(name + " shl " + std::to_string(k), ShiftLeftOp<S, D>{k}, ValuesFor<S, D>(-k), rng);
+    Twin(name + " sign", SignOp<S, D>{}, ValuesFor<S, D>(), rng);
   }
 }
 
 TEST(ConvertRows, EveryOpMatchesItsScalarTwin) {
   Rng rng(11);
-#define TPX_T_CAST(S, D) Twin(#S #D, CastOp<Tpx##S, Tpx##D>{}, IntValues<Tpx##S, Tpx##D>(), rng);
+#define TPX_T_CAST(S, D) Twin(#S #D, CastOp<Tpx##S, Tpx##D>{}, ValuesFor<Tpx##S, Tpx##D>(), rng);
   TPX_CONVERT_PLAIN_4L(TPX_T_CAST)
   TPX_CONVERT_PLAIN_C1(TPX_T_CAST)
   TPX_CONVERT_RS(TPX_T_CAST)
@@ -96,17 +96,17 @@ TEST(ConvertRows, EveryOpMatchesItsScalarTwin) {
 TEST(ConvertRows, ScaleTwins) {
   Rng rng(14);
   const tpx::FloatToIntScope scope(RoundKind::kNearest);
-  Twin("8u32f", ScaleToFloatOp{-3.25f, 1.7f}, IntValues<Tpx8u, Tpx8u>(), rng);
-  Twin("32f8u", ScaleFromFloatOp<Tpx32f>{0.37f, 11.5f}, FloatValues<Tpx32f, Tpx8u>(), rng);
-  Twin("16u8u fast", ScaleFromFloatOp<Tpx16u>{255.0f / 65535.0f, -0.0f}, IntValues<Tpx16u, Tpx16u>(), rng);
-  Twin("16s8u fast", ScaleFromFloatOp<Tpx16s>{255.0f / 65535.0f, 127.5f}, IntValues<Tpx16s, Tpx16s>(), rng);
-  Twin("32s8u fast", ScaleFromFloatOp<Tpx32s>{255.0f / 4294967296.0f, 127.5f}, IntValues<Tpx32s, Tpx32s>(), rng);
-  Twin("16u8u exact", ScaleExactOp<Tpx16u>{0.0, 255.0 / 65535.0}, IntValues<Tpx16u, Tpx16u>(), rng);
-  Twin("16s8u exact", ScaleExactOp<Tpx16s>{-32768.0, 255.0 / 65535.0}, IntValues<Tpx16s, Tpx16s>(), rng);
-  Twin("32s8u exact", ScaleExactOp<Tpx32s>{-2147483648.0, 255.0 / 4294967295.0}, IntValues<Tpx32s, Tpx32s>(), rng);
-  Twin("8u16u", ScaleWidenOp<Tpx16u>{}, IntValues<Tpx8u, Tpx8u>(), rng);
-  Twin("8u16s", ScaleWidenOp<Tpx16s>{}, IntValues<Tpx8u, Tpx8u>(), rng);
-  Twin("8u32s", ScaleWidenOp<Tpx32s>{}, IntValues<Tpx8u, Tpx8u>(), rng);
+  Twin("8u32f", ScaleToFloatOp{-3.25f, 1.7f}, ValuesFor<Tpx8u, Tpx8u>(), rng);
+  Twin("32f8u", ScaleFromFloatOp<Tpx32f>{0.37f, 11.5f}, ValuesFor<Tpx32f, Tpx8u>(), rng);
+  Twin("16u8u fast", ScaleFromFloatOp<Tpx16u>{255.0f / 65535.0f, -0.0f}, ValuesFor<Tpx16u, Tpx16u>(), rng);
+  Twin("16s8u fast", ScaleFromFloatOp<Tpx16s>{255.0f / 65535.0f, 127.5f}, ValuesFor<Tpx16s, Tpx16s>(), rng);
+  Twin("32s8u fast", ScaleFromFloatOp<Tpx32s>{255.0f / 4294967296.0f, 127.5f}, ValuesFor<Tpx32s, Tpx32s>(), rng);
+  Twin("16u8u exact", ScaleExactOp<Tpx16u>{0.0, 255.0 / 65535.0}, ValuesFor<Tpx16u, Tpx16u>(), rng);
+  Twin("16s8u exact", ScaleExactOp<Tpx16s>{-32768.0, 255.0 / 65535.0}, ValuesFor<Tpx16s, Tpx16s>(), rng);
+  Twin("32s8u exact", ScaleExactOp<Tpx32s>{-2147483648.0, 255.0 / 4294967295.0}, ValuesFor<Tpx32s, Tpx32s>(), rng);
+  Twin("8u16u", ScaleWidenOp<Tpx16u>{}, ValuesFor<Tpx8u, Tpx8u>(), rng);
+  Twin("8u16s", ScaleWidenOp<Tpx16s>{}, ValuesFor<Tpx8u, Tpx8u>(), rng);
+  Twin("8u32s", ScaleWidenOp<Tpx32s>{}, ValuesFor<Tpx8u, Tpx8u>(), rng);
 }
 
 }  // namespace

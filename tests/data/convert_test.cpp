@@ -33,9 +33,9 @@ template <class S, class D, Layout kL, class Fn>
 void PlainCase(const std::string& name, Fn fn, Rng& rng) {
   OrderCase<S, D>(name, true, fn);
   const auto model = [](S s) { return Clamp<D>(s); };
-  Sweep<S, D, kL>(name, IntValues<S, D>(), fn, model, rng);
+  Sweep<S, D, kL>(name, ValuesFor<S, D>(), fn, model, rng);
   if constexpr (std::is_same_v<D, Tpx32f> && sizeof(S) == 4)  // rounds in the caller's control
-    ForCallerModes([&](unsigned) { Sweep<S, D, Layout::C1>(name + " caller", IntValues<S, D>(), fn, model, rng, Thin(4)); });
+    ForCallerModes([&](unsigned) { Sweep<S, D, Layout::C1>(name + " caller", ValuesFor<S, D>(), fn, model, rng, Thin(4)); });
 }
 
 // One rounding member for every mode and scale factor given; float sources also under each of
@@ -43,7 +43,6 @@ void PlainCase(const std::string& name, Fn fn, Rng& rng) {
 template <class S, class D, Layout kL, class Call>
 void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes,
                 Rng& rng) {
-  constexpr bool kFloat = std::is_floating_point_v<S>;
   const auto bind = [call](int mode, int sf) {  // members without a scale factor take the mode only
     if constexpr (std::is_invocable_v<Call, const S*, int, D*, int, TpxSize, int, int>) return Bind(call, mode, sf);
     else return Bind(call, mode);
@@ -53,18 +52,11 @@ void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs,
   ForCallerModes([&](unsigned caller) {
     for (int mode : modes)
       for (int sf : sfs) {
-        if (caller != _MM_ROUND_NEAREST && (!kFloat || (sf != 0 && sfs.size() > 4))) continue;
+        if (caller != _MM_ROUND_NEAREST && (!std::is_floating_point_v<S> || (sf != 0 && sfs.size() > 4))) continue;
         const bool wide = caller == _MM_ROUND_NEAREST && (mode == 1 || mode == 2) && (sf == 0 || sf == 1 || sf == 3);
-        const auto model = [&](S x) {
-          if constexpr (kFloat) return FloatRule<S, D>(x, mode, sf);
-          else return IntSfs<S, D>(x, mode, sf);
-        };
-        const auto values = [&] {
-          if constexpr (kFloat) return FloatValues<S, D>(sf);
-          else return IntValues<S, D>(sf);
-        };
+        const auto model = [&](S x) { return Rounded<S, D>(x, mode, sf); };
         Sweep<S, D, kL>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf) + " caller " +
-                        std::to_string(caller), values(), bind(mode, sf), model, rng, wide ? all : thin);
+                        std::to_string(caller), ValuesFor<S, D>(sf), bind(mode, sf), model, rng, wide ? all : thin);
       }
   });
 }

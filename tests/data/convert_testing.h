@@ -43,17 +43,16 @@ inline double RoundBy(double y, int mode) {
   return std::round(y);
 }
 
-// Float to integer: x * 2^-sf in F, NaN gives the maximum, round by mode, saturate.
-template <class F, class D>
-D FloatRule(F x, int mode, int sf) {
-  if (sf != 0) x = x * Multiplier<F>(sf);
-  return std::isnan(x) ? std::numeric_limits<D>::max() : Clamp<D>(RoundBy(static_cast<double>(x), mode));
-}
-
-// Integer source: s * 2^-sf is exact in double (33-bit samples), rounded by mode, saturated.
+// S to integer D by mode after the scale 2^-sf: floats multiply in S and NaN gives the maximum;
+// integers scale exactly in double (33-bit samples). Then round by mode and saturate.
 template <class S, class D>
-D IntSfs(S s, int mode, int sf) {
-  return Clamp<D>(RoundBy(std::ldexp(static_cast<double>(s), -std::clamp(sf, -200, 200)), mode));
+D Rounded(S s, int mode, int sf) {
+  if constexpr (std::is_floating_point_v<S>) {
+    if (sf != 0) s = s * Multiplier<S>(sf);
+    return std::isnan(s) ? std::numeric_limits<D>::max() : Clamp<D>(RoundBy(static_cast<double>(s), mode));
+  } else {
+    return Clamp<D>(RoundBy(std::ldexp(static_cast<double>(s), -std::clamp(sf, -200, 200)), mode));
+  }
 }
 
 // Integer Scale, exactly: dMin + round_half_even((s - sMin) * dRange / sRange).
@@ -93,41 +92,37 @@ void AddNear(Values<S>& v, std::vector<long double> bases, int e) {
       }
 }
 
-// Integer samples for destination D and scale factor sf: the full range, values whose scaled
-// value lies at and next to D's bounds and ties, and for left shifts the largest that still fit.
+// Samples of S for destination D and scale factor sf. Integers: the full range, values whose
+// scaled value lies at and next to D's bounds and ties, for left shifts the largest that still
+// fit; random ones half near the scaled range of D, on ties half the time. Floats: NaN,
+// infinities, huge and tiny values, every bound of D, of 32s and 32u and of float exactness with
+// neighbours and halves scaled by 2^sf; random ones over D's range, half on multiples of one half.
 template <class S, class D>
-Values<S> IntValues(int sf = 0) {
-  Values<S> v{tpxtest::Extremes<S>(), {}};
-  const int e = sf > 0 && sf < 60 ? sf : 0;
-  AddNear<S, D>(v, {}, e);
-  if (sf < 0 && sf > -40)
-    for (long double b : {std::numeric_limits<D>::lowest(), std::numeric_limits<D>::max()})
-      AddNear<S, S>(v, {std::trunc(std::ldexp(static_cast<long double>(b), sf))}, 0);
-  v.random = [e](Rng& r) {  // half near the scaled range of D, on ties half the time
-    if (r.Chance(0.5) || e == 0) return r.Sample<S>();
-    const long double c =
-        std::ldexp(r.Int(-300, 300) + (r.Chance(0.5) ? 0.5L : 0.0L), e) + (r.Chance(0.5) ? 0 : r.Int(-3, 3));
-    return static_cast<S>(std::fmin(std::fmax(c, std::numeric_limits<S>::lowest()), std::numeric_limits<S>::max()));
-  };
-  return v;
-}
-
-// Float samples (F = Tpx32f or Tpx64f) for D and sf: NaN, infinities, huge and tiny values,
-// every bound of D, of 32s and 32u and of float exactness with neighbours and halves scaled by
-// 2^sf; random samples over D's range, half of them on multiples of one half.
-template <class F, class D>
-Values<F> FloatValues(int sf = 0) {
-  using L = std::numeric_limits<F>;
-  Values<F> v{tpxtest::Extremes<F>(), {}};  // with NaN and the infinities
-  v.special.insert(v.special.end(), {-L::quiet_NaN(), F(1e30), F(-1e30), L::denorm_min(), -L::denorm_min(),
-                                     F(0.49999997f), F(-0.49999997f)});
-  const int e = sf > -100 && sf < 100 ? sf : 0;
-  AddNear<F, D>(v, {2147483648.0L, -2147483648.0L, 4294967296.0L, 16777216.0L}, e);
+Values<S> ValuesFor(int sf = 0) {
+  using L = std::numeric_limits<S>;
+  Values<S> v{tpxtest::Extremes<S>(), {}};  // floats: with NaN and the infinities
   const double lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
-  v.random = [lo, hi, e](Rng& r) {
-    const double x = r.Real(lo - 300.0, hi + 300.0);
-    return static_cast<F>(std::ldexp(r.Chance(0.5) ? std::round(x * 2.0) / 2.0 : x, e));
-  };
+  if constexpr (std::is_floating_point_v<S>) {
+    v.special.insert(v.special.end(), {-L::quiet_NaN(), S(1e30), S(-1e30), L::denorm_min(), -L::denorm_min(),
+                                       S(0.49999997f), S(-0.49999997f)});
+    const int e = sf > -100 && sf < 100 ? sf : 0;
+    AddNear<S, D>(v, {2147483648.0L, -2147483648.0L, 4294967296.0L, 16777216.0L}, e);
+    v.random = [lo, hi, e](Rng& r) {
+      const double x = r.Real(lo - 300.0, hi + 300.0);
+      return static_cast<S>(std::ldexp(r.Chance(0.5) ? std::round(x * 2.0) / 2.0 : x, e));
+    };
+  } else {
+    const int e = sf > 0 && sf < 60 ? sf : 0;
+    AddNear<S, D>(v, {}, e);
+    if (sf < 0 && sf > -40)
+      for (long double b : {lo, hi}) AddNear<S, S>(v, {std::trunc(std::ldexp(b, sf))}, 0);
+    v.random = [e](Rng& r) {
+      if (r.Chance(0.5) || e == 0) return r.Sample<S>();
+      const long double c =
+          std::ldexp(r.Int(-300, 300) + (r.Chance(0.5) ? 0.5L : 0.0L), e) + (r.Chance(0.5) ? 0 : r.Int(-3, 3));
+      return static_cast<S>(std::fmin(std::fmax(c, L::lowest()), L::max()));
+    };
+  }
   return v;
 }
 

@@ -29,13 +29,11 @@ void LimitsCase(const std::string& name, Fn fn, Rng& rng) {
     const float offset = std::is_same_v<D, Tpx32f> ? vMin : slope * -vMin;
     const auto model = [&](S s) -> D {
       if constexpr (std::is_same_v<D, Tpx32f>) return offset + static_cast<float>(s) * slope;
-      else return FloatRule<float, Tpx8u>(s * slope + offset, 1, 0);
+      else return Rounded<float, Tpx8u>(s * slope + offset, 1, 0);
     };
-    Values<S> values = IntValues<S, S>();
-    if constexpr (std::is_floating_point_v<S>) {  // the specials, and samples around the range
-      values = FloatValues<S, Tpx8u>();
+    Values<S> values = ValuesFor<S, Tpx8u>();
+    if constexpr (std::is_floating_point_v<S>)  // the specials, and samples around the range
       values.random = [&](Rng& r) { return static_cast<S>(vMin + r.Real(-0.2, 1.2) * static_cast<double>(range)); };
-    }
     Sweep<S, D, kL>(name, values, Bind(fn, vMin, vMax), model, rng);
   }
 }
@@ -58,7 +56,7 @@ template <class S, class D, Layout kL, class Fn>
 void HintCase(const std::string& name, Fn fn, Rng& rng) {
   OrderCase<S, D>(name, false, Bind(fn, 12345));
   // 32s sources half the time within a few units of a rounding boundary, where only the exact path is exact.
-  Values<S> values = IntValues<S, S>();
+  Values<S> values = ValuesFor<S, S>();
   if constexpr (std::is_same_v<S, Tpx32s>)
     values.random = [](Rng& r) {
       return r.Chance(0.5) ? r.Sample<S>()
@@ -69,7 +67,7 @@ void HintCase(const std::string& name, Fn fn, Rng& rng) {
     // in single precision: the sample rounded to float, slope 255 / 2^32, offset 127.5.
     const bool fast = std::is_same_v<S, Tpx32s> && sizeof(D) < sizeof(S) && hint != 2;
     const auto model = [&](S s) {
-      return fast ? FloatRule<float, D>(static_cast<float>(s) * (255.0f / 4294967296.0f) + 127.5f, 1, 0)
+      return fast ? Rounded<float, D>(static_cast<float>(s) * (255.0f / 4294967296.0f) + 127.5f, 1, 0)
                   : ScaleExact<S, D>(s);
     };
     Sweep<S, D, kL>(name, values, Bind(fn, hint), model, rng);
