@@ -21,38 +21,33 @@ const std::vector<int> kFloatSfs = {0, 1, 2, 3, 5, 8, 15, 16, 17, 24, 31, 32, 33
 const std::vector<int> kIntSfs = {0, 1, 2, 3, 7, 8, 9, 10, 11, 14, 15, 16, 17, 18, 19, 30, 31, 32, 33, 34, 35, 100, INT_MAX,
                                   -1, -2, -6, -7, -8, -14, -15, -16, -30, -31, -32, -100, INT_MIN};
 
-// Every `every`-th shape and the last: for the wide parameter sweeps.
-std::vector<tpxtest::Shape> Thin(int every) {
+// Every sixth shape and the last: for the wide parameter sweeps.
+std::vector<tpxtest::Shape> Thin() {
   std::vector<tpxtest::Shape> all = tpxtest::Shapes(16), out;
-  for (std::size_t i = 0; i < all.size(); i += every) out.push_back(all[i]);
+  for (std::size_t i = 0; i < all.size(); i += 6) out.push_back(all[i]);
   out.push_back(all.back());
   return out;
 }
 
-template <class S, class D, Layout kL, class Fn>
-void PlainCase(const std::string& name, Fn fn, Rng& rng) {
-  OrderCase<S, D>(name, true, fn);
-  const auto model = [](S s) { return Clamp<D>(s); };
-  Sweep<S, D, kL>(name, ValuesFor<S, D>(), fn, model, rng);
-  if constexpr (std::is_same_v<D, Tpx32f> && sizeof(S) == 4)  // rounds in the caller's control
-    ForCallerModes([&](unsigned) { Sweep<S, D, Layout::C1>(name + " caller", ValuesFor<S, D>(), fn, model, rng, Thin(4)); });
-}
-
-// One rounding member for every mode and scale factor given; float sources also under each of
-// the caller's four rounding directions (with more than four factors, sf 0 only there).
+// One member for every rounding mode and scale factor given, with the check order; where the
+// caller's rounding control matters (float sources, 32-bit integers to 32f) also under each of its
+// four directions (with more than four factors, sf 0 only there).
 template <class S, class D, Layout kL, class Call>
-void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes,
+void MemberCase(const std::string& name, Call call, const std::vector<int>& sfs, const std::vector<int>& modes,
                 Rng& rng) {
-  const auto bind = [call](int mode, int sf) {  // members without a scale factor take the mode only
+  constexpr bool kCallerRounds = std::is_floating_point_v<S> || (std::is_same_v<D, Tpx32f> && sizeof(S) == 4);
+  constexpr bool kPlain = std::is_invocable_v<Call, const S*, int, D*, int, TpxSize>;
+  const auto bind = [call](int mode, int sf) {  // bound to the arguments the member takes
     if constexpr (std::is_invocable_v<Call, const S*, int, D*, int, TpxSize, int, int>) return Bind(call, mode, sf);
-    else return Bind(call, mode);
+    else if constexpr (!kPlain) return Bind(call, mode);
+    else return call;
   };
-  if constexpr (std::is_pointer_v<Call>) OrderCase<S, D>(name, false, bind(99, INT_MIN));  // exports only
-  const auto all = tpxtest::Shapes(16), thin = Thin(6);
+  if constexpr (std::is_pointer_v<Call>) OrderCase<S, D>(name, kPlain, bind(99, INT_MIN));  // exports only
+  const auto all = tpxtest::Shapes(16), thin = Thin();
   ForCallerModes([&](unsigned caller) {
     for (int mode : modes)
       for (int sf : sfs) {
-        if (caller != _MM_ROUND_NEAREST && (!std::is_floating_point_v<S> || (sf != 0 && sfs.size() > 4))) continue;
+        if (caller != _MM_ROUND_NEAREST && (!kCallerRounds || (sf != 0 && sfs.size() > 4))) continue;
         const bool wide = caller == _MM_ROUND_NEAREST && (mode == 1 || mode == 2) && (sf == 0 || sf == 1 || sf == 3);
         const auto model = [&](S x) { return Rounded<S, D>(x, mode, sf); };
         Sweep<S, D, kL>(name + " mode " + std::to_string(mode) + " sf " + std::to_string(sf) + " caller " +
@@ -63,19 +58,19 @@ void ScaledCase(const std::string& name, Call call, const std::vector<int>& sfs,
 
 TEST(Convert, EveryMemberMatchesTheModel) {
   Rng rng(1);
-#define TPX_T_PLAIN(S, D, L) PlainCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", tpxiConvert_##S##D##_##L##R, rng);
+#define TPX_T_PLAIN(S, D, L) MemberCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", tpxiConvert_##S##D##_##L##R, {0}, {1}, rng);
 #define TPX_T_PLAIN_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_PLAIN, S, D)
 #define TPX_T_PLAIN_ONE(S, D) TPX_T_PLAIN(S, D, C1)
-#define TPX_T_RS(S, D) PlainCase<Tpx##S, Tpx##D, Layout::C1>(#S #D "_C1Rs", tpxiConvert_##S##D##_C1Rs, rng);
+#define TPX_T_RS(S, D) MemberCase<Tpx##S, Tpx##D, Layout::C1>(#S #D "_C1Rs", tpxiConvert_##S##D##_C1Rs, {0}, {1}, rng);
   TPX_CONVERT_PLAIN_4L(TPX_T_PLAIN_ALL)
   TPX_CONVERT_PLAIN_C1(TPX_T_PLAIN_ONE)
   TPX_CONVERT_RS(TPX_T_RS)
 #define TPX_T_ROUND(S, D, L)                                                                                  \
-  ScaledCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", tpxiConvert_##S##D##_##L##R, {0}, {0, 1, 2, 3, -1, 16, 17}, rng);
+  MemberCase<Tpx##S, Tpx##D, Layout::L>(#S #D "_" #L "R", tpxiConvert_##S##D##_##L##R, {0}, {0, 1, 2, 3, -1, 16, 17}, rng);
 #define TPX_T_ROUND_ALL(S, D) TPX_FOUR_LAYOUTS(TPX_T_ROUND, S, D)
   TPX_CONVERT_ROUND_4L(TPX_T_ROUND_ALL)
 #define TPX_T_SFS(S, D)                                                                                      \
-  ScaledCase<Tpx##S, Tpx##D, Layout::C1>(#S #D "_C1RSfs", tpxiConvert_##S##D##_C1RSfs,                          \
+  MemberCase<Tpx##S, Tpx##D, Layout::C1>(#S #D "_C1RSfs", tpxiConvert_##S##D##_C1RSfs,                          \
                                          std::is_floating_point_v<Tpx##S> ? kFloatSfs : kIntSfs, {0, 1, 2, 17}, rng);
   TPX_CONVERT_FLOAT_SFS(TPX_T_SFS)
   TPX_CONVERT_INT_SFS(TPX_T_SFS)
@@ -85,7 +80,7 @@ TEST(Convert, EveryMemberMatchesTheModel) {
       std::memcpy(reinterpret_cast<char*>(d) + y * ds, reinterpret_cast<const char*>(s) + y * ss, 4 * r.width);
     return tpxiConvert_32f32u_C1IRSfs(d, ds, r, mode, sf);
   };
-  ScaledCase<Tpx32f, Tpx32u, Layout::C1>("32f32u_C1IRSfs", inPlace, {0, 1, 7, 31, 32, 33, 150, -1, -8, -31, -200},
+  MemberCase<Tpx32f, Tpx32u, Layout::C1>("32f32u_C1IRSfs", inPlace, {0, 1, 7, 31, 32, 33, 150, -1, -8, -31, -200},
                                         {0, 1, 2, 16}, rng);
   Tpx32u img[8] = {};
   EXPECT_EQ(tpxiConvert_32f32u_C1IRSfs(nullptr, 0, TpxSize{0, 0}, 0, 0), tpxErrNullPtr);
@@ -199,7 +194,7 @@ void Against(const std::string& name, Ours ours, double alpha, Rng& rng) {
       return alpha == 1 && !std::is_floating_point_v<S> ? cv::saturate_cast<D>(static_cast<std::int64_t>(s))
                                                         : cv::saturate_cast<D>(s * alpha);
     };
-    Sweep<S, D, Layout::C1>(name + " against OpenCV", values, ours, oracle, rng, Thin(6));
+    Sweep<S, D, Layout::C1>(name + " against OpenCV", values, ours, oracle, rng, Thin());
   }
 }
 
