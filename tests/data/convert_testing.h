@@ -60,8 +60,8 @@ template <class S, class D>
 D ScaleExact(S s) {
   using LS = std::numeric_limits<S>;
   using LD = std::numeric_limits<D>;
-  const __int128 sRange = static_cast<__int128>(LS::max()) - LS::lowest(), dRange = static_cast<__int128>(LD::max()) - LD::lowest();
-  const __int128 num = (static_cast<__int128>(s) - LS::lowest()) * dRange, q = num / sRange, r2 = 2 * (num % sRange);
+  const __int128 sRange = __int128{LS::max()} - LS::lowest(), dRange = __int128{LD::max()} - LD::lowest();
+  const __int128 num = (__int128{s} - LS::lowest()) * dRange, q = num / sRange, r2 = 2 * (num % sRange);
   return static_cast<D>(LD::lowest() + q + (r2 > sRange || (r2 == sRange && (q & 1))));
 }
 
