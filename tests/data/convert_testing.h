@@ -1,29 +1,71 @@
-// Test data and the image sweep shared by the Convert and Scale tests: values at and next to
-// every saturation bound and rounding tie, and a sweep that compares every destination sample
-// with a model, with guard bands, AC4 alpha and the caller's rounding control checked.
+// Shared by the Convert and Scale tests: plain reference models written with wide exact
+// arithmetic (double, 128-bit integers), test values at and next to every saturation bound and
+// rounding tie, the image sweep against a model and the two-fault check order.
 #pragma once
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
-#include <cstring>
 #include <functional>
-#include <limits>
-#include <string>
-#include <type_traits>
-#include <vector>
 
+#include "core/layout.h"
 #include "support/image.h"
 #include "support/random.h"
 #include "support/sweep.h"
-#include "tpxip/types.h"
 
 namespace cvttest {
 
 using tpxtest::GuardedImage;
 using tpxtest::Rng;
 
+// ---- Models ----
+// Saturates an exact value to D; a float D rounds once in the current rounding control.
+template <class D>
+D Clamp(double r) {
+  using L = std::numeric_limits<D>;
+  return r >= static_cast<double>(L::max()) ? L::max() : r <= static_cast<double>(L::lowest()) ? L::lowest() : D(r);
+}
+
+// 2^-sf as repeated halving/doubling in F reaches it: exact while representable, then 0 or inf.
+template <class F>
+F Multiplier(int sf) {
+  using L = std::numeric_limits<F>;
+  const long long e = -static_cast<long long>(sf);  // zero below the least subnormal, 2^-149 for float
+  return e < L::min_exponent - L::digits ? F(0) : e >= L::max_exponent ? L::infinity() : std::ldexp(F(1), int(e));
+}
+
+// Rounds by mode: 0 truncate, 1 half to even, other half away from zero.
+inline double RoundBy(double y, int mode) {
+  if (mode == 0 || !std::isfinite(y)) return std::trunc(y);
+  if (mode == 1 && std::fabs(y - std::trunc(y)) == 0.5) return 2 * std::round(y / 2);
+  return std::round(y);
+}
+
+// S to integer D by mode after the scale 2^-sf: floats multiply in S and NaN gives the maximum;
+// integers scale exactly in double (33-bit samples). Then round by mode and saturate.
+template <class S, class D>
+D Rounded(S s, int mode, int sf) {
+  if constexpr (std::is_floating_point_v<S>) {
+    if (sf != 0) s = s * Multiplier<S>(sf);
+    return std::isnan(s) ? std::numeric_limits<D>::max() : Clamp<D>(RoundBy(static_cast<double>(s), mode));
+  } else {
+    return Clamp<D>(RoundBy(std::ldexp(static_cast<double>(s), -std::clamp(sf, -200, 200)), mode));
+  }
+}
+
+// Integer Scale, exactly: dMin + round_half_even((s - sMin) * dRange / sRange).
+template <class S, class D>
+D ScaleExact(S s) {
+  using LS = std::numeric_limits<S>;
+  using LD = std::numeric_limits<D>;
+  const __int128 sRange = __int128{LS::max()} - LS::lowest(), dRange = __int128{LD::max()} - LD::lowest();
+  const __int128 num = (__int128{s} - LS::lowest()) * dRange, q = num / sRange, r2 = 2 * (num % sRange);
+  return static_cast<D>(LD::lowest() + q + (r2 > sRange || (r2 == sRange && (q & 1))));
+}
+
+// ---- Values ----
 // Special values drawn with probability 0.3, a random draw otherwise.
 template <class S>
 struct Values {
@@ -34,105 +76,102 @@ struct Values {
   }
 };
 
-// Adds c-1, c, c+1 for each c = (b + off) * 2^e over the bounds of D, small values and halves.
+// Adds c-1, c, c+1 (floats: each with both neighbours) for each c = (b + off) * 2^e over the
+// bounds of D, small values and halves.
 template <class S, class D>
 void AddNear(Values<S>& v, std::vector<long double> bases, int e) {
-  const long double lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
-  bases.insert(bases.end(), {lo, hi, 0.0L, 1.0L, -1.0L, 2.0L, -2.0L, 3.0L, -3.0L});
+  using L = std::numeric_limits<S>;
+  bases.insert(bases.end(), {std::numeric_limits<D>::lowest(), std::numeric_limits<D>::max(), 0, 1, -1, 2, -2, 3, -3});
   for (long double b : bases)
-    for (long double off : {-1.0L, -0.5L, 0.0L, 0.5L, 1.0L}) {
-      const long double c = std::ldexp(b + off, e);
-      for (long double x : {c - 1, c, c + 1})
-        if (std::is_floating_point_v<S> || (x >= std::numeric_limits<S>::lowest() &&
-                                            x <= std::numeric_limits<S>::max()))
+    for (long double off : {-1.0L, -0.5L, 0.0L, 0.5L, 1.0L})
+      for (long double x : {std::ldexp(b + off, e) - 1, std::ldexp(b + off, e), std::ldexp(b + off, e) + 1}) {
+        if constexpr (std::is_floating_point_v<S>)
+          v.special.insert(v.special.end(), {S(x), std::nextafter(S(x), L::infinity()), std::nextafter(S(x), -L::infinity())});
+        else if (x >= L::lowest() && x <= L::max())
           v.special.push_back(static_cast<S>(x));
-    }
+      }
 }
 
-// Integer samples for destination D and scale factor sf: the full range, values whose scaled
-// value lies at and next to D's bounds and ties, and for left shifts the largest that still fit.
+// Samples of S for destination D and scale factor sf. Integers: the full range, values whose
+// scaled value lies at and next to D's bounds and ties, for left shifts the largest that still
+// fit; random ones half near the scaled range of D, on ties half the time. Floats: NaN,
+// infinities, huge and tiny values, every bound of D, of 32s and 32u and of float exactness with
+// neighbours and halves scaled by 2^sf; random ones over D's range, half on multiples of one half.
 template <class S, class D>
-Values<S> IntValues(int sf = 0) {
-  Values<S> v{tpxtest::Extremes<S>(), {}};
-  const int e = sf > 0 && sf < 60 ? sf : 0;
-  AddNear<S, D>(v, {}, e);
-  if (sf < 0 && sf > -40)
-    for (long double b : {std::numeric_limits<D>::lowest(), std::numeric_limits<D>::max()})
-      AddNear<S, S>(v, {std::trunc(std::ldexp(static_cast<long double>(b), sf))}, 0);
-  v.random = [e](Rng& r) {  // half near the scaled range of D, on ties half the time
-    if (r.Chance(0.5) || e == 0) return r.Sample<S>();
-    const long double c =
-        std::ldexp(r.Int(-300, 300) + (r.Chance(0.5) ? 0.5L : 0.0L), e) + (r.Chance(0.5) ? 0 : r.Int(-3, 3));
-    return static_cast<S>(std::fmin(std::fmax(c, std::numeric_limits<S>::lowest()), std::numeric_limits<S>::max()));
-  };
-  return v;
-}
-
-// Float samples (F = Tpx32f or Tpx64f) for D and sf: NaN, infinities, huge and tiny values,
-// every bound of D, of 32s and 32u and of float exactness with neighbours and halves scaled by
-// 2^sf; random samples over D's range, half of them on multiples of one half.
-template <class F, class D>
-Values<F> FloatValues(int sf = 0) {
-  using L = std::numeric_limits<F>;
-  Values<F> v{tpxtest::Extremes<F>(), {}};
-  for (F x : {L::quiet_NaN(), -L::quiet_NaN(), L::infinity(), -L::infinity(), F(1e30), F(-1e30), L::denorm_min(),
-              -L::denorm_min(), F(0.49999997f), F(-0.49999997f)})
-    v.special.push_back(x);
-  const int e = sf > -100 && sf < 100 ? sf : 0;
-  Values<F> near;
-  AddNear<F, D>(near, {2147483648.0L, -2147483648.0L, 4294967296.0L, 16777216.0L}, e);
-  for (F c : near.special)
-    for (F x : {c, std::nextafter(c, L::infinity()), std::nextafter(c, -L::infinity())}) v.special.push_back(x);
+Values<S> ValuesFor(int sf = 0) {
+  using L = std::numeric_limits<S>;
+  Values<S> v{tpxtest::Extremes<S>(), {}};  // floats: with NaN and the infinities
   const double lo = std::numeric_limits<D>::lowest(), hi = std::numeric_limits<D>::max();
-  v.random = [lo, hi, e](Rng& r) {
-    const double x = r.Real(lo - 300.0, hi + 300.0);
-    return static_cast<F>(std::ldexp(r.Chance(0.5) ? std::round(x * 2.0) / 2.0 : x, e));
-  };
+  if constexpr (std::is_floating_point_v<S>) {
+    v.special.insert(v.special.end(), {-L::quiet_NaN(), S(1e30), S(-1e30), L::denorm_min(), -L::denorm_min(),
+                                       S(0.49999997f), S(-0.49999997f)});
+    const int e = sf > -100 && sf < 100 ? sf : 0;
+    AddNear<S, D>(v, {2147483648.0L, -2147483648.0L, 4294967296.0L, 16777216.0L}, e);
+    v.random = [lo, hi, e](Rng& r) {
+      const double x = r.Real(lo - 300.0, hi + 300.0);
+      return static_cast<S>(std::ldexp(r.Chance(0.5) ? std::round(x * 2.0) / 2.0 : x, e));
+    };
+  } else {
+    const int e = sf > 0 && sf < 60 ? sf : 0;
+    AddNear<S, D>(v, {}, e);
+    if (sf < 0 && sf > -40)
+      for (long double b : {lo, hi}) AddNear<S, S>(v, {std::trunc(std::ldexp(b, sf))}, 0);
+    v.random = [e](Rng& r) {
+      if (r.Chance(0.5) || e == 0) return r.Sample<S>();
+      const long double c =
+          std::ldexp(r.Int(-300, 300) + (r.Chance(0.5) ? 0.5L : 0.0L), e) + (r.Chance(0.5) ? 0 : r.Int(-3, 3));
+      return static_cast<S>(std::fmin(std::fmax(c, L::lowest()), L::max()));
+    };
+  }
   return v;
 }
 
+// ---- Calls ----
 // Samples equal bit for bit (NaN payloads included).
 template <class T>
 bool Same(T a, T b) { return std::memcmp(&a, &b, sizeof(T)) == 0; }
 
-// MXCSR without the exception flags: rounding direction, masks, flush-to-zero, denormals-are-zero.
-inline unsigned Control() { return _mm_getcsr() & ~0x3Fu; }
-
-// The four rounding directions a caller may leave in MXCSR.
-inline const unsigned kCallerModes[] = {_MM_ROUND_NEAREST, _MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO};
-
-// Every `every`-th shape and the last: for the wide parameter sweeps.
-inline std::vector<tpxtest::Shape> Thin(const std::vector<tpxtest::Shape>& all, int every = 4) {
-  std::vector<tpxtest::Shape> out;
-  for (std::size_t i = 0; i < all.size(); i += every) out.push_back(all[i]);
-  out.push_back(all.back());
-  return out;
+// Runs f(direction) with each of the four rounding directions a caller may leave in MXCSR.
+template <class F>
+void ForCallerModes(F&& f) {
+  const unsigned saved = _mm_getcsr();
+  for (unsigned mode : {_MM_ROUND_NEAREST, _MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO}) {
+    _mm_setcsr((saved & ~_MM_ROUND_MASK) | mode);
+    f(mode);
+  }
+  _mm_setcsr(saved);
 }
 
-// Runs call(src, srcStep, dst, dstStep, roi) on every shape with random sources, and checks
+// An export with its trailing arguments bound: call(src, srcStep, dst, dstStep, roi).
+template <class Fn, class... A>
+auto Bind(Fn fn, A... a) {
+  return [=](auto s, int ss, auto d, int ds, TpxSize r) { return fn(s, ss, d, ds, r, a...); };
+}
+
+// Runs call(src, srcStep, dst, dstStep, roi) in layout kL on every shape (by default those of the
+// 16-sample steps every row kernel here takes) with random sources, and checks
 // tpxOk, every sample against model(sourceSample), AC4 alpha and guard bytes kept, and the
 // caller's rounding control left as it was.
-template <class S, class D, class Call, class Model>
-void Sweep(const std::string& name, int channels, bool ac4, const std::vector<tpxtest::Shape>& shapes,
-           const Values<S>& values, Call&& call, Model&& model, Rng& rng) {
+template <class S, class D, tpx::Layout kL, class Call, class Model>
+void Sweep(const std::string& name, const Values<S>& values, Call&& call, Model&& model, Rng& rng,
+           const std::vector<tpxtest::Shape>& shapes = tpxtest::Shapes(16)) {
+  const int channels = tpx::Stride(kL);
   for (const tpxtest::Shape& sh : shapes) {
     GuardedImage<S> src(sh.width, sh.height, channels, sh.padSamples, sh.misalign);
     GuardedImage<D> dst(sh.width, sh.height, channels, (sh.padSamples * 3) % 19, (sh.misalign + 1) % 4);
     for (int y = 0; y < sh.height; ++y)
       for (int i = 0; i < dst.RowSamples(); ++i) {
         src.Row(y)[i] = values(rng);
-        dst.Row(y)[i] = static_cast<D>(rng.Int(0, 100));
+        dst.Row(y)[i] = static_cast<D>((y + i) % 101);
       }
-    const std::vector<D> before = dst.Samples();
-    const unsigned csr = Control();
+    const unsigned csr = _mm_getcsr() & ~0x3Fu;  // MXCSR without the exception flags
     const TpxStatus st = call(src.Data(), src.Step(), dst.Data(), dst.Step(), TpxSize{sh.width, sh.height});
-    ASSERT_EQ(Control(), csr) << name << ": rounding control changed";
+    ASSERT_EQ(_mm_getcsr() & ~0x3Fu, csr) << name << ": rounding control changed";
     ASSERT_EQ(st, tpxOk) << name;
     for (int y = 0; y < sh.height; ++y)
       for (int i = 0; i < dst.RowSamples(); ++i) {
         const D got = dst.Row(y)[i];
-        const std::size_t k = static_cast<std::size_t>(y) * dst.RowSamples() + i;
-        const D want = ac4 && i % 4 == 3 ? before[k] : model(src.Row(y)[i]);
+        const D want = kL == tpx::Layout::AC4 && i % 4 == 3 ? static_cast<D>((y + i) % 101) : model(src.Row(y)[i]);
         ASSERT_TRUE(Same(got, want)) << name << " w=" << sh.width << " h=" << sh.height << " at (" << i << "," << y
                                      << ") src=" << +src.Row(y)[i] << " got=" << +got << " want=" << +want;
       }
