@@ -69,12 +69,22 @@ T Mixed(Rng& rng, double p = 0.2) {
   return rng.Chance(p) ? e[rng.Int(0, int(e.size()) - 1)] : rng.Sample<T>();
 }
 
-// Every ordered pair of a set of samples, as two rows x and y.
+// Every ordered pair of every 8u sample, or of a 257-step 16-bit grid with the values around its
+// turns, as two rows x and y.
 template <class T>
-void CrossPairs(const std::vector<T>& values, std::vector<T>& x, std::vector<T>& y) {
-  x.clear(), y.clear();
-  for (T a : values)
-    for (T b : values) x.push_back(a), y.push_back(b);
+void DensePairs(std::vector<T>& x, std::vector<T>& y) {
+  std::vector<int> v = {1, 2, 3, 255, 256, 0x7fff, 0x8000, 0x8001, 0xfffe, 46340, 46341};
+  if (sizeof(T) == 1) v.clear();
+  for (int i = 0; i < (sizeof(T) == 1 ? 256 : 65536); i += sizeof(T) == 1 ? 1 : 257) v.push_back(i);
+  for (int a : v)
+    for (int b : v) x.push_back(static_cast<T>(a)), y.push_back(static_cast<T>(b));
+}
+
+// A per-channel argument as the members take it: a value for C1, else a pointer.
+template <Layout L, class T>
+auto ChArg(const T* v) {
+  if constexpr (L == Layout::C1) return v[0];
+  else return v;
 }
 
 // One call of a two-image or constant point operation: d = f(x, y) with x the old destination
@@ -90,6 +100,7 @@ struct Args {
   TpxSizeL roi;
   const T* value;
   int sf;
+  TpxSize Roi() const { return {int(roi.width), int(roi.height)}; }
 };
 template <class T, class Op>
 struct Member {

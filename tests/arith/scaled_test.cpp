@@ -54,8 +54,8 @@ void ForEachOp(F&& f) {
 
 // One row through the scalar and the AVX kernel of sf: equal to each other and to the model,
 // alpha kept, nothing written past the row.
-template <Op kOp, bool kAlpha, class T, class Y, class At>
-void TwinRow(int sf, const T* x, const Y& y, At yAt, std::ptrdiff_t n, bool inPlace) {
+template <Op kOp, bool kAlpha, class T, class Y>
+void TwinRow(int sf, const T* x, const Y& y, std::ptrdiff_t n, bool inPlace) {
   constexpr bool kConst = !std::is_same_v<Y, RowOperand<T>>;
   std::vector<T> s(n + 8, T(77)), a(n + 8, T(77));
   if (inPlace) std::copy(x, x + n, s.begin()), std::copy(x, x + n, a.begin());
@@ -67,61 +67,44 @@ void TwinRow(int sf, const T* x, const Y& y, At yAt, std::ptrdiff_t n, bool inPl
   else if (!WithSfKernel<kOp, T, kConst>(sf, [&](auto op) { both(op, SfParams{sf}); })) return;  // a fill
   for (std::size_t i = 0; i < s.size(); ++i) {
     const T want = i >= std::size_t(n) || (kAlpha && i % 4 == 3) ? (inPlace && i < std::size_t(n) ? x[i] : T(77))
-                                                                 : Ref<T>(kOp, x[i], yAt(i), sf);
+                                                                 : Ref<T>(kOp, x[i], y.At(i, i % OperandPeriod<Y>::kValue), sf);
     ASSERT_TRUE(Same(s[i], a[i]) && Same(s[i], want))
         << "sf=" << sf << " n=" << n << " i=" << i << " const=" << kConst << " got " << +a[i] << " want " << +want;
   }
 }
 
+// Every sf: all dense pairs in one row, then every length to 3V+3 and a few long ones, misaligned,
+// against a row and constants of 1, 3 and 4 samples, out of place and in place.
 template <Op kOp, class T>
 void KernelTwins(Rng& rng) {
   constexpr int kV = std::is_same_v<T, float> ? 8 : 16 / sizeof(T);
   std::vector<int> lengths;
   for (int n = 0; n <= 3 * kV + 3; ++n) lengths.push_back(n);
   lengths.insert(lengths.end(), {97, 255, 12 * kV + 4});
-  for (int sf : std::is_same_v<T, float> ? std::vector<int>{0} : kSfs)
+  std::vector<T> dx, dy;
+  if constexpr (!std::is_same_v<T, float>) DensePairs(dx, dy);
+  for (int sf : std::is_same_v<T, float> ? std::vector<int>{0} : kSfs) {
+    TwinRow<kOp, false>(sf, dx.data(), RowOperand<T>{dy.data()}, dx.size(), false);
     for (int n : lengths) {
-      const int mis = n % 4;
       std::vector<T> xs(n + 4), ys(n + 4);
       for (std::size_t i = 0; i < xs.size(); ++i) xs[i] = Mixed<T>(rng), ys[i] = Mixed<T>(rng);
       T pix[4];
       for (T& v : pix) v = Mixed<T>(rng);
-      const T *x = xs.data() + mis, *y = ys.data() + mis;
-      auto cyc = [&](int p) { return [&pix, p](std::size_t i) { return pix[i % p]; }; };
+      const T* x = xs.data() + n % 4;
       for (bool ip : {false, true}) {
-        TwinRow<kOp, false>(sf, x, RowOperand<T>{y}, [y](std::size_t i) { return y[i]; }, n, ip);
-        TwinRow<kOp, false>(sf, x, ConstOperand<T, 1>(pix), cyc(1), n, ip);
-        TwinRow<kOp, false>(sf, x, ConstOperand<T, 3>(pix), cyc(3), n, ip);
-        TwinRow<kOp, false>(sf, x, ConstOperand<T, 4>(pix), cyc(4), n, ip);
-        TwinRow<kOp, true>(sf, x, ConstOperand<T, 4>(pix), cyc(4), n / 4 * 4, ip);
+        TwinRow<kOp, false>(sf, x, RowOperand<T>{ys.data() + n % 4}, n, ip);
+        TwinRow<kOp, false>(sf, x, ConstOperand<T, 1>(pix), n, ip);
+        TwinRow<kOp, false>(sf, x, ConstOperand<T, 3>(pix), n, ip);
+        TwinRow<kOp, false>(sf, x, ConstOperand<T, 4>(pix), n, ip);
+        TwinRow<kOp, true>(sf, x, ConstOperand<T, 4>(pix), n / 4 * 4, ip);
       }
     }
+  }
 }
 
 TEST(ScaledKernels, AvxEqualsScalarAndModel) {
   Rng rng(1);
   ForEachType([&](auto t) { ForEachOp([&](auto op) { KernelTwins<op.value, decltype(t)>(rng); }); });
-}
-
-// Every pair of 8-bit samples, and dense 16-bit grids, for every kernel.
-template <class T>
-void DensePairs(const std::vector<T>& values) {
-  std::vector<T> x, y;
-  CrossPairs(values, x, y);
-  ForEachOp([&](auto o) {
-    for (int sf : kSfs) TwinRow<o.value, false>(sf, x.data(), RowOperand<T>{y.data()}, [&](std::size_t i) { return y[i]; }, x.size(), false);
-  });
-}
-
-TEST(ScaledKernels, DensePairs) {
-  std::vector<Tpx8u> all;
-  std::vector<Tpx16u> u;
-  std::vector<Tpx16s> s;
-  for (int i = 0; i < 256; ++i) all.push_back(static_cast<Tpx8u>(i));
-  for (int i = 0; i < 65536; i += 257) u.push_back(static_cast<Tpx16u>(i));
-  for (int i : {1, 2, 3, 0x7fff, 0x8000, 0x8001, 0xfffe, 0xffff, 46340, 46341}) u.push_back(static_cast<Tpx16u>(i));
-  for (Tpx16u v : u) s.push_back(static_cast<Tpx16s>(v));
-  DensePairs(all), DensePairs(u), DensePairs(s);
 }
 
 // ---- Every export against the model ------------------------------------------------------------
@@ -135,14 +118,8 @@ using M = Member<T, Op>;
 #define T_SFX_8u Sfs
 #define T_SFX_16u Sfs
 #define T_SFX_16s Sfs
-#define T_VAL_C1 *a.value
-#define T_VAL_C3 a.value
-#define T_VAL_C4 a.value
-#define T_VAL_AC4 a.value
-#define T_CAT(a, b, c, d, e) a##b##c##d##e
-#define T_NAME(OP, T, L, FORM, SFX, TAIL) T_CAT(tpxi##OP##_, T, _##L, FORM, SFX##TAIL)
+#define T_NAME(OP, T, L, FORM, SFX, TAIL) tpxi##OP##_##T##_##L##FORM##SFX##TAIL
 #define T_FN(OP, T, L, FORM, SFX, TAIL) T_NAME(OP, T, L, FORM, SFX, TAIL)
-#define T_ROI TpxSize{int(a.roi.width), int(a.roi.height)}
 #define T_ENTRY(NAME, OP, L, C, IP, ISL, T, ...) \
   {NAME, Op::k##OP, Layout::L, C, IP, ISL, [](const Args<Tpx##T>& a) { return __VA_ARGS__; }},
 // The R and IR forms of one step width: I narrows the steps, ROI is the region argument.
@@ -152,10 +129,10 @@ using M = Member<T, Op>;
   T_ENTRY(#OP #T #L "IR" #TAIL, OP, L, 0, 1, ISL, T, T_FN(OP, T, L, IR, T_SFX_##T, TAIL)(a.src1, I(a.step1), a.dst, I(a.dstStep), ROI T_SF_##T))
 #define M_CONST1(OP, T, L, ISL, TAIL, I, ROI)                                                                        \
   T_ENTRY(#OP "C" #T #L "R" #TAIL, OP, L, 1, 0, ISL, T, T_FN(OP##C, T, L, R, T_SFX_##T, TAIL)(a.src1, I(a.step1),      \
-          T_VAL_##L, a.dst, I(a.dstStep), ROI T_SF_##T))                                                           \
-  T_ENTRY(#OP "C" #T #L "IR" #TAIL, OP, L, 1, 1, ISL, T, T_FN(OP##C, T, L, IR, T_SFX_##T, TAIL)(T_VAL_##L, a.dst, I(a.dstStep), ROI T_SF_##T))
-#define M_BIN(OP, T, L) M_BIN1(OP, T, L, 0, , int, T_ROI) M_BIN1(OP, T, L, 1, _L, , a.roi)
-#define M_CONST(OP, T, L) M_CONST1(OP, T, L, 0, , int, T_ROI) M_CONST1(OP, T, L, 1, _L, , a.roi)
+          ChArg<Layout::L>(a.value), a.dst, I(a.dstStep), ROI T_SF_##T))                                                           \
+  T_ENTRY(#OP "C" #T #L "IR" #TAIL, OP, L, 1, 1, ISL, T, T_FN(OP##C, T, L, IR, T_SFX_##T, TAIL)(ChArg<Layout::L>(a.value), a.dst, I(a.dstStep), ROI T_SF_##T))
+#define M_BIN(OP, T, L) M_BIN1(OP, T, L, 0, , int, a.Roi()) M_BIN1(OP, T, L, 1, _L, , a.roi)
+#define M_CONST(OP, T, L) M_CONST1(OP, T, L, 0, , int, a.Roi()) M_CONST1(OP, T, L, 1, _L, , a.roi)
 #define M_LAYOUTS(X, OP, T) X(OP, T, C1) X(OP, T, C3) X(OP, T, C4) X(OP, T, AC4)
 #define M_TYPE(T)                                                                                          \
   M_LAYOUTS(M_BIN, Add, T) M_LAYOUTS(M_BIN, Sub, T) M_LAYOUTS(M_BIN, Mul, T) M_LAYOUTS(M_CONST, Add, T)     \
@@ -169,11 +146,8 @@ std::vector<M<T>> Members() {
   else return {M_TYPE(32f)};
 }
 
-template <class T>
-PointCase<T> MakeCase(const M<T>& m, const Shape& s, Rng& rng, int sf) {
-  return PointCase<T>(m, s, rng, [&](T x, T y) { return Ref<T>(m.op, x, y, sf); });
-}
-
+// Every member on the sweep with a cycle of sf (the _L twins on a third of it, their narrowing
+// path); then steps, which are never checked: -1 walks upward from the last row, 0 repeats one.
 TEST(ScaledExports, EveryMemberMatchesTheModel) {
   Rng rng(21);
   ForEachType([&](auto t) {
@@ -183,27 +157,20 @@ TEST(ScaledExports, EveryMemberMatchesTheModel) {
     ASSERT_EQ(members.size(), 96u);
     for (std::size_t mi = 0; mi < members.size(); ++mi) {
       const M<T>& m = members[mi];
+      auto run = [&](const Shape& s, int sf, int steps) {
+        PointCase<T> c(m, s, rng, [&](T x, T y) { return Ref<T>(m.op, x, y, sf); });
+        Args<T> a = c.MakeArgs(sf);
+        if (steps < 0) a.src1 = c.a.Row(s.height - 1), a.src2 = c.b.Row(s.height - 1), a.dst = c.d.Row(s.height - 1);
+        a.step1 *= steps, a.step2 *= steps, a.dstStep *= steps, a.roi.height += steps ? 0 : 4;
+        return m.call(a) == tpxOk ? c.Check() << " " << m.name << " sf=" << sf << " " << s.width << "x" << s.height << " steps " << steps
+                                  : ::testing::AssertionFailure() << m.name << " status";
+      };
       for (std::size_t si = 0; si < shapes.size(); ++si)
-        for (int k = 0; k < 2 && (!m.isL || si % 3 == 0); ++k) {  // the narrowing path: a third of the shapes
-          const int sf = std::is_same_v<T, float> ? 0 : kSfs[(si * 2 + k + mi) % kSfs.size()];
-          PointCase<T> c = MakeCase(m, shapes[si], rng, sf);
-          ASSERT_EQ(m.call(c.MakeArgs(sf)), tpxOk) << m.name;
-          ASSERT_TRUE(c.Check()) << m.name << " sf=" << sf << " w=" << shapes[si].width << " h=" << shapes[si].height;
-        }
-      // Steps are never checked: negative steps walk upward, 0 repeats a row.
+        for (int k = 0; k < 2 && (!m.isL || si % 3 == 0); ++k)
+          ASSERT_TRUE(run(shapes[si], std::is_same_v<T, float> ? 0 : kSfs[(si * 2 + k + mi) % kSfs.size()], 1));
       const int sf = std::is_same_v<T, float> ? 0 : 1;
-      PointCase<T> c = MakeCase(m, Shape{13, 5, 3, 1}, rng, sf);
-      Args<T> a = c.MakeArgs(sf);
-      a.src1 = c.a.Row(4), a.src2 = c.b.Row(4), a.dst = c.d.Row(4);
-      a.step1 = -a.step1, a.step2 = -a.step2, a.dstStep = -a.dstStep;
-      ASSERT_EQ(m.call(a), tpxOk) << m.name;
-      ASSERT_TRUE(c.Check()) << m.name << " negative steps";
-      if (m.inPlace) continue;  // in place a repeated row would be applied again
-      PointCase<T> z = MakeCase(m, Shape{9, 1, 0, 0}, rng, sf);
-      a = z.MakeArgs(sf);
-      a.step1 = a.step2 = a.dstStep = 0, a.roi.height = 5;
-      ASSERT_EQ(m.call(a), tpxOk) << m.name;
-      ASSERT_TRUE(z.Check()) << m.name << " zero steps";
+      ASSERT_TRUE(run(Shape{13, 5, 3, 1}, sf, -1));
+      if (!m.inPlace) ASSERT_TRUE(run(Shape{9, 1, 0, 0}, sf, 0));  // in place a repeated row would apply twice
     }
   });
 }
@@ -254,7 +221,7 @@ TEST(ScaledExports, LTwinsWalkRowsBeyondA32BitStep) {
     for (const M<T>& m : Members<T>()) {
       if (!m.isL) continue;
       const int sf = std::is_same_v<T, float> ? 0 : kSfs[rng.Int(0, int(kSfs.size()) - 1)];
-      PointCase<T> c = MakeCase(m, Shape{37, 3, 8, 0}, rng, sf);
+      PointCase<T> c(m, Shape{37, 3, 8, 0}, rng, [&](T x, T y) { return Ref<T>(m.op, x, y, sf); });
       const GuardedImage<T>* img[3] = {&c.a, &c.b, &c.d};
       const int rowBytes = c.d.RowSamples() * int(sizeof(T));
       for (bool up : {false, true}) {
