@@ -74,15 +74,15 @@ const bool kRegistered = (TPX_COMPARE_MEMBERS(ADD_CASE) true);
 // Every case on every shape, with samples of many ties, NaN and infinities in both images, and
 // a constant of pivots of the exact length: check(k, a, b, value, d, want, where).
 template <class T, class P, class F>
-void Sweep(const std::vector<Case<T, P>>& cases, Rng& rng, F check) {
+void Sweep(const std::vector<Case<T, P>>& cases, Rng& rng, F check, const std::vector<Shape>& shapes = decide::Shapes(16)) {
   for (const Case<T, P>& k : cases) {
     const int ch = tpx::Stride(k.layout);
-    for (const tpxtest::Shape& sh : decide::Shapes(16)) {
+    for (const tpxtest::Shape& sh : shapes) {
       GuardedImage<T> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
       // Padding 0 leaves every image contiguous (one long run), except that every other such
       // shape gives the mask a step of a C-sample row, which must not pass for contiguous.
       const int maskPad = sh.padSamples == 0 && sh.height % 2 ? sh.width * (ch - 1) : sh.padSamples;
-      GuardedImage<T> b(sh.width, sh.height, ch, sh.padSamples ? (sh.padSamples + 5) % 7 : 0, (sh.misalign + 3) % 5);
+      GuardedImage<T> b(sh.width, sh.height, ch, sh.padSamples ? (sh.padSamples + 5) % 7 : 0, sh.misalign * 3 % 5);
       GuardedImage<Tpx8u> d(sh.width, sh.height, 1, maskPad, sh.misalign), want(sh.width, sh.height);
       FillFrom(a, rng, SamplesAround<T>()), FillFrom(b, rng, SamplesAround<T>());
       std::vector<T> value(tpx::Stride(k.layout) == 4 && k.layout != Layout::AC4 ? 4 : 3);
@@ -161,15 +161,11 @@ TEST(Compare, AvxRowEqualsScalarRow) {
 // those of the rule all the same.
 TEST(Compare, LargeAligned8uImagesGiveTheSameMasks) {
   Rng rng(0xA1);
-  for (Layout l : {Layout::C1, Layout::C3, Layout::AC4}) {
-    const Case<Tpx8u>& k = Cases<Tpx8u>()[l == Layout::C1 ? 0 : l == Layout::C3 ? 1 : 3];
-    const int ch = tpx::Stride(l);
-    GuardedImage<Tpx8u> a(1024, 360, ch), b(1024, 360, ch), d(1024, 360), want(1024, 360);
-    FillFrom(a, rng, Pivots<Tpx8u>()), FillFrom(b, rng, Pivots<Tpx8u>());
-    const Tpx8u value[3] = {3, 100, 101};
-    for (int op : {tpxCmpLessEq, tpxCmpGreater})
-      EXPECT_TRUE(k.Check(a, b, value, d, want, op, [op](Tpx8u x, Tpx8u y) { return Holds(op, x, y); }));
-  }
+  Sweep(std::vector<Case<Tpx8u>>{Cases<Tpx8u>()[0], Cases<Tpx8u>()[1], Cases<Tpx8u>()[3]}, rng,  // C1, C3, AC4
+        [&](const Case<Tpx8u>& k, auto& a, auto& b, const Tpx8u* v, auto& d, auto& want, const std::string& where) {
+          for (int op : {tpxCmpLessEq, tpxCmpGreater})
+            EXPECT_TRUE(k.Check(a, b, v, d, want, op, [op](Tpx8u x, Tpx8u y) { return Holds(op, x, y); })) << where;
+        }, {Shape{1024, 360, 0, 0}});
 }
 
 // Pointers, steps, size; then cmpOp (never refused) or eps.

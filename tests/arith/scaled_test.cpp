@@ -237,10 +237,8 @@ TEST(ScaledExports, LTwinsWalkRowsBeyondA32BitStep) {
           for (int b = rowBytes; b < c.d.Step(); ++b) ASSERT_EQ(row(2, y)[b], kCanary) << m.name << " past the row";
         }
       }
-      const Args<T> empty{(T*)row(0, 0), step, (T*)row(1, 0), step, (T*)row(2, 0), step, TpxSizeL{0, 3}, c.value, sf};
-      EXPECT_EQ(m.call(empty), tpxOk) << m.name;
       const Args<T> null{nullptr, step, nullptr, step, nullptr, step, TpxSizeL{37, 3}, c.value, sf};
-      EXPECT_EQ(m.call(null), tpxErrNullPtr) << m.name;
+      EXPECT_EQ(m.call(null), tpxErrNullPtr) << m.name;  // the walk checks its pieces
     }
   });
   munmap(p, bytes);
@@ -249,30 +247,27 @@ TEST(ScaledExports, LTwinsWalkRowsBeyondA32BitStep) {
 #ifdef TPX_HAVE_OPENCV
 // OpenCV as an independent oracle where its rounding is the same (sf 0; 8u products scaled by a
 // power of two are exact in float and OpenCV rounds them half even).
-template <class T>
-void OpenCvSaturating(int cvType, const M<T>* add, const M<T>* sub, const M<T>* mul) {
-  cv::RNG rng(81);
-  cv::Mat a(37, 71, cvType), b(37, 71, cvType), d(37, 71, cvType), want;
-  rng.fill(a, cv::RNG::UNIFORM, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max() + 1.0);
-  rng.fill(b, cv::RNG::UNIFORM, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max() + 1.0);
-  auto run = [&](const M<T>* m, int sf) {
-    const long long st = a.step[0];
-    ASSERT_EQ(m->call(Args<T>{a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, TpxSizeL{71, 37}, nullptr, sf}), tpxOk);
-    EXPECT_EQ(cv::norm(d, want, cv::NORM_INF), 0) << m->name << " sf " << sf;
-  };
-  cv::add(a, b, want), run(add, 0);
-  cv::subtract(b, a, want), run(sub, 0);  // the first image is the subtrahend
-  cv::multiply(a, b, want), run(mul, 0);
-  if (!std::is_same_v<T, Tpx8u>) return;
-  for (int sf = 1; sf <= 9; ++sf) cv::multiply(a, b, want, 1.0 / (1 << sf)), run(mul, sf);
-  cv::addWeighted(a, 0.5, b, 0.5, 0.0, want), run(add, 1);
-}
-
 TEST(ScaledOracle, OpenCvAgrees) {
   ForEachType([&](auto t) {
     using T = decltype(t);
-    const std::vector<M<T>> ms = Members<T>();  // C1 R members: Add, Sub, Mul at 0, 16, 32
-    if constexpr (!std::is_same_v<T, float>) OpenCvSaturating<T>(cv::DataType<T>::type, &ms[0], &ms[16], &ms[32]);
+    if constexpr (!std::is_same_v<T, float>) {
+      const std::vector<M<T>> ms = Members<T>();  // C1 R members: Add, Sub, Mul at 0, 16, 32
+      cv::RNG rng(81);
+      cv::Mat a(37, 71, cv::DataType<T>::type), b(37, 71, a.type()), d(37, 71, a.type()), want;
+      rng.fill(a, cv::RNG::UNIFORM, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max() + 1.0);
+      rng.fill(b, cv::RNG::UNIFORM, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max() + 1.0);
+      auto run = [&](const M<T>& m, int sf) {
+        const long long st = a.step[0];
+        ASSERT_EQ(m.call(Args<T>{a.ptr<T>(), st, b.ptr<T>(), st, d.ptr<T>(), st, TpxSizeL{71, 37}, nullptr, sf}), tpxOk);
+        EXPECT_EQ(cv::norm(d, want, cv::NORM_INF), 0) << m.name << " sf " << sf;
+      };
+      cv::add(a, b, want), run(ms[0], 0);
+      cv::subtract(b, a, want), run(ms[16], 0);  // the first image is the subtrahend
+      cv::multiply(a, b, want), run(ms[32], 0);
+      if (!std::is_same_v<T, Tpx8u>) return;
+      for (int sf = 1; sf <= 9; ++sf) cv::multiply(a, b, want, 1.0 / (1 << sf)), run(ms[32], sf);
+      cv::addWeighted(a, 0.5, b, 0.5, 0.0, want), run(ms[0], 1);
+    }
   });
 }
 #endif
