@@ -59,9 +59,7 @@ inline std::vector<Shape> Shapes(int lanes) {
 
 template <class T>
 bool Same(T a, T b) {
-  if constexpr (std::is_floating_point_v<T>)
-    if (std::isnan(a) && std::isnan(b)) return true;
-  return std::memcmp(&a, &b, sizeof(T)) == 0;
+  return (std::is_floating_point_v<T> && a != a && b != b) || std::memcmp(&a, &b, sizeof(T)) == 0;
 }
 template <class T>
 T Mixed(Rng& rng, double p = 0.2) {

@@ -24,17 +24,6 @@ bool Holds(int op, T a, T b) {
   return r[op];
 }
 
-// 255 where every considered channel holds; holds(x, y, c).
-template <class F>
-void ModelMask(GuardedImage<Tpx8u>& want, Layout l, F holds) {
-  for (int y = 0; y < want.Height(); ++y)
-    for (int x = 0; x < want.Width(); ++x) {
-      bool all = true;
-      for (int c = 0; c < tpx::Processed(l); ++c) all = all && holds(x, y, c);
-      want.At(x, y) = all ? 255 : 0;
-    }
-}
-
 // P is the last argument: cmpOp, or eps for the EqualEps forms.
 template <class T, class P = int>
 struct Case {
@@ -42,16 +31,22 @@ struct Case {
   Layout layout;
   std::function<TpxStatus(const T*, int, const T*, int, Tpx8u*, int, TpxSize, P)> cmp;
   std::function<TpxStatus(const T*, int, const T*, Tpx8u*, int, TpxSize, P)> cmpC;
-  // Runs both forms against the model masks of rel(sample, other image's sample or constant).
+  // Runs both forms against the model mask: 255 where rel(sample, the other image's sample or
+  // the constant) holds in every considered channel.
   template <class Rel>
   ::testing::AssertionResult Check(const GuardedImage<T>& a, const GuardedImage<T>& b, const T* v, GuardedImage<Tpx8u>& d,
                                    GuardedImage<Tpx8u>& want, P p, Rel rel) const {
-    ModelMask(want, layout, [&](int x, int y, int c) { return rel(a.At(x, y, c), b.At(x, y, c)); });
-    if (cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), p) != tpxOk || !SameSamples(d, want) || !d.GuardsIntact())
-      return ::testing::AssertionFailure() << name << " two images";
-    ModelMask(want, layout, [&](int x, int y, int c) { return rel(a.At(x, y, c), v[c]); });
-    if (cmpC(a.Data(), a.Step(), v, d.Data(), d.Step(), a.Size(), p) != tpxOk || !SameSamples(d, want) || !d.GuardsIntact())
-      return ::testing::AssertionFailure() << name << " constant";
+    for (bool constant : {false, true}) {
+      for (int y = 0; y < want.Height(); ++y)
+        for (int x = 0; x < want.Width(); ++x) {
+          bool all = true;
+          for (int c = 0; c < tpx::Processed(layout); ++c) all = all && rel(a.At(x, y, c), constant ? v[c] : b.At(x, y, c));
+          want.At(x, y) = all ? 255 : 0;
+        }
+      const TpxStatus st = constant ? cmpC(a.Data(), a.Step(), v, d.Data(), d.Step(), a.Size(), p)
+                                    : cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), p);
+      if (st != tpxOk || !SameSamples(d, want) || !d.GuardsIntact()) return ::testing::AssertionFailure() << name << " constant " << constant;
+    }
     return ::testing::AssertionSuccess();
   }
 };
