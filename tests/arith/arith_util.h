@@ -28,6 +28,13 @@ void ForEachLayout(F&& f) {
   using L = Layout;
   f(std::integral_constant<L, L::C1>{}), f(std::integral_constant<L, L::C3>{}), f(std::integral_constant<L, L::C4>{}), f(std::integral_constant<L, L::AC4>{});
 }
+// The cases of a family, filled from its member list when the program starts.
+template <class Case>
+std::vector<Case>& Registry() {
+  static std::vector<Case> v;
+  return v;
+}
+
 template <class T>
 constexpr int Lanes() { return std::is_same_v<T, Tpx8u> ? 16 : 8; }
 

@@ -51,10 +51,7 @@ struct Case {
   }
 };
 template <class T>
-std::vector<Case<T>>& Cases() {
-  static std::vector<Case<T>> v;
-  return v;
-}
+auto& Cases() { return Registry<Case<T>>(); }
 #define ADD_CASE(T, L)                                                                                                  \
   Cases<Tpx##T>().push_back(Case<Tpx##T>{#T "_" #L "R", Layout::L, tpxiCompare_##T##_##L##R,                            \
       [](const Tpx##T* s, int ss, const Tpx##T* v, Tpx8u* d, int ds, TpxSize r, int op) {                               \

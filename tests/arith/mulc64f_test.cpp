@@ -20,29 +20,19 @@ using namespace decide;
 
 const int kDirs[] = {FE_TONEAREST, FE_DOWNWARD, FE_UPWARD, FE_TOWARDZERO};
 
-// The product, the narrowing and (but for mode 2) the conversion run down for mode 0, to nearest
-// for mode 1, else (and always for 32f) in the caller's direction.
+// The product, the narrowing and (but for mode 2, half up) the conversion run down for mode 0,
+// to nearest for mode 1, else (and always for 32f) in the caller's direction.
 template <class T>
 T Model(T x, double c, int mode, int callerDir) {
-  const int dir = std::is_same_v<T, float> || (mode != 0 && mode != 1) ? callerDir : mode == 0 ? FE_DOWNWARD : FE_TONEAREST;
   const int saved = std::fegetround();
-  std::fesetround(dir);
+  std::fesetround(std::is_same_v<T, float> || (mode != 0 && mode != 1) ? callerDir : mode == 0 ? FE_DOWNWARD : FE_TONEAREST);
   volatile double xd = static_cast<double>(x), cd = c;
   volatile float f = static_cast<float>(xd * cd);
+  const double lo = std::numeric_limits<T>::lowest(), hi = std::numeric_limits<T>::max();
+  const double g = std::isnan(f) ? lo : f < lo ? lo : f > hi ? hi : f;  // a NaN takes the low end
+  const double r = std::is_same_v<T, float> ? f : mode == 2 ? std::trunc(g + 0.5) : std::nearbyint(g);
   std::fesetround(saved);
-  if constexpr (std::is_same_v<T, float>) {
-    return f;
-  } else {
-    const float lo = static_cast<float>(std::numeric_limits<T>::lowest());
-    const float hi = static_cast<float>(std::numeric_limits<T>::max());
-    const double g = std::isnan(f) ? lo : f < lo ? lo : f > hi ? hi : f;  // a NaN takes the low end
-    if (mode == 2) return static_cast<T>(std::trunc(g + 0.5));
-    const double r = dir == FE_DOWNWARD ? std::floor(g)
-                   : dir == FE_UPWARD   ? std::ceil(g)
-                   : dir == FE_TOWARDZERO ? std::trunc(g)
-                   : g - std::floor(g) == 0.5 ? 2 * std::floor(std::floor(g) / 2 + 0.5) : std::round(g);
-    return static_cast<T>(r);
-  }
+  return static_cast<T>(r);
 }
 
 // Ties to even in mode 1, half up in mode 2 (-2.5 gives -2), down (not toward zero) in mode 0,
