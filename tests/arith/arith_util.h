@@ -92,6 +92,17 @@ auto ChArg(const T* v) {
   else return v;
 }
 
+// The region of d against want, sample by sample, and nothing written outside any of the images.
+template <class T>
+::testing::AssertionResult Matches(const GuardedImage<T>& d, const std::vector<T>& want, std::initializer_list<const GuardedImage<T>*> images) {
+  const std::vector<T> got = d.Samples();
+  for (std::size_t i = 0; i < got.size(); ++i)
+    if (!Same(got[i], want[i])) return ::testing::AssertionFailure() << "sample " << i << " got " << +got[i] << " want " << +want[i];
+  for (const GuardedImage<T>* g : images)
+    if (!g->GuardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
+  return ::testing::AssertionSuccess();
+}
+
 // One call of a two-image or constant point operation: d = f(x, y) with x the old destination
 // in place, else b (two images) or a (constant), and y a (two images) or the constant.
 template <class T>
@@ -138,15 +149,7 @@ struct PointCase {
   Args<T> MakeArgs(int sf) {
     return {a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), TpxSizeL{d.Width(), d.Height()}, value, sf};
   }
-  ::testing::AssertionResult Check() const {
-    const std::vector<T> got = d.Samples();
-    for (std::size_t i = 0; i < got.size(); ++i)
-      if (!Same(got[i], want[i]))
-        return ::testing::AssertionFailure() << "sample " << i << " got " << +got[i] << " want " << +want[i];
-    if (!a.GuardsIntact() || !b.GuardsIntact() || !d.GuardsIntact())
-      return ::testing::AssertionFailure() << "written outside the region";
-    return ::testing::AssertionSuccess();
-  }
+  ::testing::AssertionResult Check() const { return Matches(d, want, {&a, &b, &d}); }
 };
 
 }  // namespace decide
