@@ -110,7 +110,7 @@ TEST(Compare, EqualEpsIsAbsoluteDifferenceAtMostEps) {
         [&](const Case<float, float>& k, auto& a, auto& b, const float* v, auto& d, auto& want, const std::string& where) {
           for (float eps : {0.0f, -0.0f, 0.5f, 2.0f, 3.5f, INFINITY, NAN})
             ASSERT_TRUE(k.Check(a, b, v, d, want, eps, [eps](float x, float y) { return std::fabs(x - y) <= eps; })) << where << " eps " << eps;
-        });
+        }, decide::Shapes(Lanes<float>()));
 }
 
 // Row kernel twins: every relation, operand form (image/image, image/constant, constant/image),

@@ -160,15 +160,16 @@ TEST(ScaledExports, EveryMemberMatchesTheModel) {
         Args<T> a = c.MakeArgs(sf);
         if (steps < 0) a.src1 = c.a.Row(s.height - 1), a.src2 = c.b.Row(s.height - 1), a.dst = c.d.Row(s.height - 1);
         a.step1 *= steps, a.step2 *= steps, a.dstStep *= steps, a.roi.height += steps ? 0 : 4;
-        return m.call(a) == tpxOk ? c.Check() << " " << m.name << " sf=" << sf << " " << s.width << "x" << s.height << " steps " << steps
-                                  : ::testing::AssertionFailure() << m.name << " status";
+        return m.call(a) == tpxOk ? c.Check() : ::testing::AssertionFailure() << "status";
       };
       for (std::size_t si = 0; si < shapes.size(); ++si)
-        for (int k = 0; k < 2 && (!m.isL || si % 3 == 0); ++k)
-          ASSERT_TRUE(run(shapes[si], std::is_same_v<T, float> ? 0 : kSfs[(si * 2 + k + mi) % kSfs.size()], 1));
+        for (int k = 0; k < 2 && (!m.isL || si % 3 == 0); ++k) {
+          const int sf = std::is_same_v<T, float> ? 0 : kSfs[(si * 2 + k + mi) % kSfs.size()];
+          ASSERT_TRUE(run(shapes[si], sf, 1)) << m.name << " sf=" << sf << " " << shapes[si].width << "x" << shapes[si].height;
+        }
       const int sf = std::is_same_v<T, float> ? 0 : 1;
-      ASSERT_TRUE(run(Shape{13, 5, 3, 1}, sf, -1));
-      if (!m.inPlace) ASSERT_TRUE(run(Shape{9, 1, 0, 0}, sf, 0));  // in place a repeated row would apply twice
+      ASSERT_TRUE(run(Shape{13, 5, 3, 1}, sf, -1)) << m.name << " negative steps";
+      if (!m.inPlace) ASSERT_TRUE(run(Shape{9, 1, 0, 0}, sf, 0)) << m.name << " zero steps";  // in place a repeated row would apply twice
     }
   });
 }
