@@ -1,5 +1,6 @@
-// Shared pieces of the arith tests: type and layout lists, sample sets with many ties around a
-// few pivots, the shape sweep, and one call of a point operation checked against a model.
+// Shared pieces of the arith tests: type and layout lists, a case registry, sample sets with many
+// ties around a few pivots, dense sample pairs, the shape sweep, a sample-and-guard matcher, and
+// one call of a point operation checked against a model.
 #pragma once
 #include <gtest/gtest.h>
 
@@ -26,8 +27,10 @@ void ForEachType(F&& f) {
 template <class F>
 void ForEachLayout(F&& f) {
   using L = Layout;
-  f(std::integral_constant<L, L::C1>{}), f(std::integral_constant<L, L::C3>{}), f(std::integral_constant<L, L::C4>{}), f(std::integral_constant<L, L::AC4>{});
+  std::apply([&](auto... l) { (f(l), ...); }, std::tuple<std::integral_constant<L, L::C1>, std::integral_constant<L, L::C3>,
+                                                         std::integral_constant<L, L::C4>, std::integral_constant<L, L::AC4>>{});
 }
+
 // The cases of a family, filled from its member list when the program starts.
 template <class Case>
 std::vector<Case>& Registry() {
@@ -78,8 +81,8 @@ T Mixed(Rng& rng, double p = 0.2) {
 // turns, as two rows x and y.
 template <class T>
 void DensePairs(std::vector<T>& x, std::vector<T>& y) {
-  std::vector<int> v = {1, 2, 3, 255, 256, 0x7fff, 0x8000, 0x8001, 0xfffe, 46340, 46341};
-  if (sizeof(T) == 1) v.clear();
+  std::vector<int> v;
+  if (sizeof(T) == 2) v = {1, 2, 3, 255, 256, 0x7fff, 0x8000, 0x8001, 0xfffe, 46340, 46341};
   for (int i = 0; i < (sizeof(T) == 1 ? 256 : 65536); i += sizeof(T) == 1 ? 1 : 257) v.push_back(i);
   for (int a : v)
     for (int b : v) x.push_back(static_cast<T>(a)), y.push_back(static_cast<T>(b));

@@ -187,7 +187,9 @@ TEST(ScaledExports, NullBeforeSizeAndNoStepOrScaleCheck) {
         for (TpxSizeL roi : {TpxSizeL{0, 3}, {3, 0}, {-1, -1}}) {  // a null pointer ahead of any size
           T* p[4] = {buf, buf, buf, buf};
           p[slot] = nullptr;
-          if (uses[slot]) EXPECT_EQ(m.call({p[0], 16, p[1], 16, p[2], 16, roi, p[3], 0}), widthFirst && roi.width <= 0 ? tpxErrSize : tpxErrNullPtr) << m.name << " slot " << slot;
+          if (uses[slot])
+            EXPECT_EQ(m.call({p[0], 16, p[1], 16, p[2], 16, roi, p[3], 0}), widthFirst && roi.width <= 0 ? tpxErrSize : tpxErrNullPtr)
+                << m.name << " slot " << slot;
         }
       // No step or sf check; an _L twin with steps beyond 32 bits does no work on an empty region.
       const TpxStatus wide = m.isL ? tpxOk : tpxErrSize;
@@ -195,7 +197,8 @@ TEST(ScaledExports, NullBeforeSizeAndNoStepOrScaleCheck) {
           {0, 3, 16, 0, tpxErrSize}, {2, -4, 16, 0, tpxErrSize}, {1, 1, -7, INT_MIN, tpxOk}, {1, 1, -7, INT_MAX, tpxOk},
           {0, 3, 0x7fffffffLL, 0, wide}, {5, -2, -0x7fffffffLL, 0, wide}};
       for (const auto& k : cases)
-        EXPECT_EQ(m.call({buf, k.step, buf, k.step, buf, k.step, TpxSizeL{k.w, k.h}, buf, k.sf}), k.want) << m.name << " " << k.w << "x" << k.h << " step " << k.step;
+        EXPECT_EQ(m.call({buf, k.step, buf, k.step, buf, k.step, TpxSizeL{k.w, k.h}, buf, k.sf}), k.want)
+            << m.name << " " << k.w << "x" << k.h << " step " << k.step;
     }
   });
 }
@@ -224,7 +227,8 @@ TEST(ScaledExports, LTwinsWalkRowsBeyondA32BitStep) {
         ASSERT_EQ(m.call(a), tpxOk) << m.name;
         for (int y = 0; y < 3; ++y) std::memcpy(c.d.Row(y), row(2, y), c.d.Step());  // the padding comes back too
         ASSERT_TRUE(c.Check()) << m.name << " up " << up;
-        if (up) EXPECT_EQ(m.call({nullptr, st, nullptr, st, nullptr, st, TpxSizeL{37, 3}, c.value, sf}), tpxErrNullPtr) << m.name;  // the walk checks its pieces
+        if (up)  // the walk checks its pieces
+          EXPECT_EQ(m.call({nullptr, st, nullptr, st, nullptr, st, TpxSizeL{37, 3}, c.value, sf}), tpxErrNullPtr) << m.name;
       }
     }
   });
@@ -261,11 +265,15 @@ TEST(MulScaleKernels, AvxEqualsScalarAndRule) {
   MulScalePairs<Tpx8u>(), MulScalePairs<Tpx16u>();
 }
 
-#define MS_MEMBER(T, L)                                                                                                      \
-  T_ENTRY("MulScale_" #T "_" #L "R", Mul, L, 0, 0, 0, T, tpxiMulScale_##T##_##L##R(a.src1, int(a.step1), a.src2, int(a.step2), a.dst, int(a.dstStep), a.Roi())) \
-  T_ENTRY("MulScale_" #T "_" #L "IR", Mul, L, 0, 1, 0, T, tpxiMulScale_##T##_##L##IR(a.src1, int(a.step1), a.dst, int(a.dstStep), a.Roi()))                   \
-  T_ENTRY("MulCScale_" #T "_" #L "R", Mul, L, 1, 0, 0, T, tpxiMulCScale_##T##_##L##R(a.src1, int(a.step1), ChArg<Layout::L>(a.value), a.dst, int(a.dstStep), a.Roi())) \
-  T_ENTRY("MulCScale_" #T "_" #L "IR", Mul, L, 1, 1, 0, T, tpxiMulCScale_##T##_##L##IR(ChArg<Layout::L>(a.value), a.dst, int(a.dstStep), a.Roi()))
+#define MS_MEMBER(T, L)                                                                                              \
+  T_ENTRY("MulScale_" #T "_" #L "R", Mul, L, 0, 0, 0, T,                                                             \
+          tpxiMulScale_##T##_##L##R(a.src1, int(a.step1), a.src2, int(a.step2), a.dst, int(a.dstStep), a.Roi()))     \
+  T_ENTRY("MulScale_" #T "_" #L "IR", Mul, L, 0, 1, 0, T,                                                            \
+          tpxiMulScale_##T##_##L##IR(a.src1, int(a.step1), a.dst, int(a.dstStep), a.Roi()))                          \
+  T_ENTRY("MulCScale_" #T "_" #L "R", Mul, L, 1, 0, 0, T,                                                            \
+          tpxiMulCScale_##T##_##L##R(a.src1, int(a.step1), ChArg<Layout::L>(a.value), a.dst, int(a.dstStep), a.Roi())) \
+  T_ENTRY("MulCScale_" #T "_" #L "IR", Mul, L, 1, 1, 0, T,                                                           \
+          tpxiMulCScale_##T##_##L##IR(ChArg<Layout::L>(a.value), a.dst, int(a.dstStep), a.Roi()))
 #define MS_TYPE(T) MS_MEMBER(T, C1) MS_MEMBER(T, C3) MS_MEMBER(T, C4) MS_MEMBER(T, AC4)
 
 // Every member on the sweep (the product is symmetric, so the common operand order serves the

@@ -106,7 +106,8 @@ TEST(Threshold, EveryExportFollowsItsRuleOnTiesNaNAndAlpha) {
         const Args<T> a = RandomArgs<T>(rng);
         Expect(k, src, dst, want, a);
         const std::string where = k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height);
-        ASSERT_TRUE(k.r(src.Data(), src.Step(), dst.Data(), dst.Step(), src.Size(), a) == tpxOk && SameSamples(dst, want) && dst.GuardsIntact()) << where;
+        ASSERT_TRUE(k.r(src.Data(), src.Step(), dst.Data(), dst.Step(), src.Size(), a) == tpxOk && SameSamples(dst, want) && dst.GuardsIntact())
+            << where;
         // In place on the same source: the alpha of the source image itself stays.
         Expect(k, src, src, want, a);
         ASSERT_TRUE(k.ir(src.Data(), src.Step(), src.Size(), a) == tpxOk && SameSamples(src, want) && src.GuardsIntact()) << where << " IR";
