@@ -1,5 +1,6 @@
-// Shared pieces of the arith tests: type and layout lists, sample sets with many ties around a
-// few pivots, the shape sweep, and one call of a point operation checked against a model.
+// Shared pieces of the arith tests: type and layout lists, a case registry, sample sets with many
+// ties around a few pivots, dense sample pairs, the shape sweep, a sample-and-guard matcher, and
+// one call of a point operation checked against a model.
 #pragma once
 #include <gtest/gtest.h>
 
@@ -26,8 +27,17 @@ void ForEachType(F&& f) {
 template <class F>
 void ForEachLayout(F&& f) {
   using L = Layout;
-  f(std::integral_constant<L, L::C1>{}), f(std::integral_constant<L, L::C3>{}), f(std::integral_constant<L, L::C4>{}), f(std::integral_constant<L, L::AC4>{});
+  std::apply([&](auto... l) { (f(l), ...); }, std::tuple<std::integral_constant<L, L::C1>, std::integral_constant<L, L::C3>,
+                                                         std::integral_constant<L, L::C4>, std::integral_constant<L, L::AC4>>{});
 }
+
+// The cases of a family, filled from its member list when the program starts.
+template <class Case>
+std::vector<Case>& Registry() {
+  static std::vector<Case> v;
+  return v;
+}
+
 template <class T>
 constexpr int Lanes() { return std::is_same_v<T, Tpx8u> ? 16 : 8; }
 
@@ -59,9 +69,7 @@ inline std::vector<Shape> Shapes(int lanes) {
 
 template <class T>
 bool Same(T a, T b) {
-  if constexpr (std::is_floating_point_v<T>)
-    if (std::isnan(a) && std::isnan(b)) return true;
-  return std::memcmp(&a, &b, sizeof(T)) == 0;
+  return (std::is_floating_point_v<T> && a != a && b != b) || std::memcmp(&a, &b, sizeof(T)) == 0;
 }
 template <class T>
 T Mixed(Rng& rng, double p = 0.2) {
@@ -69,12 +77,33 @@ T Mixed(Rng& rng, double p = 0.2) {
   return rng.Chance(p) ? e[rng.Int(0, int(e.size()) - 1)] : rng.Sample<T>();
 }
 
-// Every ordered pair of a set of samples, as two rows x and y.
+// Every ordered pair of every 8u sample, or of a 257-step 16-bit grid with the values around its
+// turns, as two rows x and y.
 template <class T>
-void CrossPairs(const std::vector<T>& values, std::vector<T>& x, std::vector<T>& y) {
-  x.clear(), y.clear();
-  for (T a : values)
-    for (T b : values) x.push_back(a), y.push_back(b);
+void DensePairs(std::vector<T>& x, std::vector<T>& y) {
+  std::vector<int> v;
+  if (sizeof(T) == 2) v = {1, 2, 3, 255, 256, 0x7fff, 0x8000, 0x8001, 0xfffe, 46340, 46341};
+  for (int i = 0; i < (sizeof(T) == 1 ? 256 : 65536); i += sizeof(T) == 1 ? 1 : 257) v.push_back(i);
+  for (int a : v)
+    for (int b : v) x.push_back(static_cast<T>(a)), y.push_back(static_cast<T>(b));
+}
+
+// A per-channel argument as the members take it: a value for C1, else a pointer.
+template <Layout L, class T>
+auto ChArg(const T* v) {
+  if constexpr (L == Layout::C1) return v[0];
+  else return v;
+}
+
+// The region of d against want, sample by sample, and nothing written outside any of the images.
+template <class T>
+::testing::AssertionResult Matches(const GuardedImage<T>& d, const std::vector<T>& want, std::initializer_list<const GuardedImage<T>*> images) {
+  const std::vector<T> got = d.Samples();
+  for (std::size_t i = 0; i < got.size(); ++i)
+    if (!Same(got[i], want[i])) return ::testing::AssertionFailure() << "sample " << i << " got " << +got[i] << " want " << +want[i];
+  for (const GuardedImage<T>* g : images)
+    if (!g->GuardsIntact()) return ::testing::AssertionFailure() << "written outside the region";
+  return ::testing::AssertionSuccess();
 }
 
 // One call of a two-image or constant point operation: d = f(x, y) with x the old destination
@@ -90,6 +119,7 @@ struct Args {
   TpxSizeL roi;
   const T* value;
   int sf;
+  TpxSize Roi() const { return {int(roi.width), int(roi.height)}; }
 };
 template <class T, class Op>
 struct Member {
@@ -122,15 +152,7 @@ struct PointCase {
   Args<T> MakeArgs(int sf) {
     return {a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), TpxSizeL{d.Width(), d.Height()}, value, sf};
   }
-  ::testing::AssertionResult Check() const {
-    const std::vector<T> got = d.Samples();
-    for (std::size_t i = 0; i < got.size(); ++i)
-      if (!Same(got[i], want[i]))
-        return ::testing::AssertionFailure() << "sample " << i << " got " << +got[i] << " want " << +want[i];
-    if (!a.GuardsIntact() || !b.GuardsIntact() || !d.GuardsIntact())
-      return ::testing::AssertionFailure() << "written outside the region";
-    return ::testing::AssertionSuccess();
-  }
+  ::testing::AssertionResult Check() const { return Matches(d, want, {&a, &b, &d}); }
 };
 
 }  // namespace decide

@@ -24,17 +24,6 @@ bool Holds(int op, T a, T b) {
   return r[op];
 }
 
-// 255 where every considered channel holds; holds(x, y, c).
-template <class F>
-void ModelMask(GuardedImage<Tpx8u>& want, Layout l, F holds) {
-  for (int y = 0; y < want.Height(); ++y)
-    for (int x = 0; x < want.Width(); ++x) {
-      bool all = true;
-      for (int c = 0; c < tpx::Processed(l); ++c) all = all && holds(x, y, c);
-      want.At(x, y) = all ? 255 : 0;
-    }
-}
-
 // P is the last argument: cmpOp, or eps for the EqualEps forms.
 template <class T, class P = int>
 struct Case {
@@ -42,94 +31,86 @@ struct Case {
   Layout layout;
   std::function<TpxStatus(const T*, int, const T*, int, Tpx8u*, int, TpxSize, P)> cmp;
   std::function<TpxStatus(const T*, int, const T*, Tpx8u*, int, TpxSize, P)> cmpC;
-  // Runs both forms against the model masks of holds(x, y, c) and of holdsC.
-  template <class H, class HC>
+  // Runs both forms against the model mask: 255 where rel(sample, the other image's sample or
+  // the constant) holds in every considered channel.
+  template <class Rel>
   ::testing::AssertionResult Check(const GuardedImage<T>& a, const GuardedImage<T>& b, const T* v, GuardedImage<Tpx8u>& d,
-                                   GuardedImage<Tpx8u>& want, P p, H holds, HC holdsC) const {
-    ModelMask(want, layout, holds);
-    if (cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), p) != tpxOk || !SameSamples(d, want) || !d.GuardsIntact())
-      return ::testing::AssertionFailure() << name << " two images";
-    ModelMask(want, layout, holdsC);
-    if (cmpC(a.Data(), a.Step(), v, d.Data(), d.Step(), a.Size(), p) != tpxOk || !SameSamples(d, want) || !d.GuardsIntact())
-      return ::testing::AssertionFailure() << name << " constant";
+                                   GuardedImage<Tpx8u>& want, P p, Rel rel) const {
+    for (bool constant : {false, true}) {
+      for (int y = 0; y < want.Height(); ++y)
+        for (int x = 0; x < want.Width(); ++x) {
+          bool all = true;
+          for (int c = 0; c < tpx::Processed(layout); ++c) all = all && rel(a.At(x, y, c), constant ? v[c] : b.At(x, y, c));
+          want.At(x, y) = all ? 255 : 0;
+        }
+      const TpxStatus st = constant ? cmpC(a.Data(), a.Step(), v, d.Data(), d.Step(), a.Size(), p)
+                                    : cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), p);
+      if (st != tpxOk || !SameSamples(d, want) || !d.GuardsIntact()) return ::testing::AssertionFailure() << name << " constant " << constant;
+    }
     return ::testing::AssertionSuccess();
   }
 };
 template <class T>
-std::vector<Case<T>>& Cases() {
-  static std::vector<Case<T>> v;
-  return v;
-}
-template <class T, Layout L>
-auto Value(const T* v) {
-  if constexpr (L == Layout::C1) return v[0];
-  else return v;
-}
+auto& Cases() { return Registry<Case<T>>(); }
 #define ADD_CASE(T, L)                                                                                                  \
   Cases<Tpx##T>().push_back(Case<Tpx##T>{#T "_" #L "R", Layout::L, tpxiCompare_##T##_##L##R,                            \
       [](const Tpx##T* s, int ss, const Tpx##T* v, Tpx8u* d, int ds, TpxSize r, int op) {                               \
-        return tpxiCompareC_##T##_##L##R(s, ss, Value<Tpx##T, Layout::L>(v), d, ds, r, op); }}),
+        return tpxiCompareC_##T##_##L##R(s, ss, ChArg<Layout::L>(v), d, ds, r, op); }}),
 const bool kRegistered = (TPX_COMPARE_MEMBERS(ADD_CASE) true);
+#define ADD_EPS(L)                                                                               \
+  {#L, Layout::L, tpxiCompareEqualEps_32f_##L##R,                                                \
+   [](const Tpx32f* s, int ss, const Tpx32f* v, Tpx8u* d, int ds, TpxSize r, Tpx32f eps) {       \
+     return tpxiCompareEqualEpsC_32f_##L##R(s, ss, ChArg<Layout::L>(v), d, ds, r, eps);           \
+   }},
+
+// Every case on every shape, with samples of many ties, NaN and infinities in both images, and
+// a constant of pivots of the exact length: check(k, a, b, value, d, want, where).
+template <class T, class P, class F>
+void Sweep(const std::vector<Case<T, P>>& cases, Rng& rng, F check, const std::vector<Shape>& shapes = decide::Shapes(16)) {
+  for (const Case<T, P>& k : cases) {
+    const int ch = tpx::Stride(k.layout);
+    for (const tpxtest::Shape& sh : shapes) {
+      GuardedImage<T> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
+      // Padding 0 leaves every image contiguous (one long run), except that every other such
+      // shape gives the mask a step of a C-sample row, which must not pass for contiguous.
+      const int maskPad = sh.padSamples == 0 && sh.height % 2 ? sh.width * (ch - 1) : sh.padSamples;
+      GuardedImage<T> b(sh.width, sh.height, ch, sh.padSamples ? (sh.padSamples + 5) % 7 : 0, sh.misalign * 3 % 5);
+      GuardedImage<Tpx8u> d(sh.width, sh.height, 1, maskPad, sh.misalign), want(sh.width, sh.height);
+      FillFrom(a, rng, SamplesAround<T>()), FillFrom(b, rng, SamplesAround<T>());
+      std::vector<T> value(tpx::Stride(k.layout) == 4 && k.layout != Layout::AC4 ? 4 : 3);
+      for (T& v : value) v = Pivots<T>()[rng.Int(0, 4)];
+      check(k, a, b, value.data(), d, want, k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height));
+      if (::testing::Test::HasFatalFailure()) return;
+    }
+  }
+}
 
 TEST(Compare, EveryExportAndOpFollowsTheRuleOnTiesAndNaN) {
   Rng rng(0xC0);
   ForEachType([&](auto tag) {
     using T = decltype(tag);
-    for (const Case<T>& k : Cases<T>()) {
-      const int ch = tpx::Stride(k.layout);
-      for (const tpxtest::Shape& sh : decide::Shapes(16)) {
-        GuardedImage<T> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign);
-        // Padding 0 leaves every image contiguous (one long run), except that every other such
-        // shape gives the mask a step of a C-sample row, which must not pass for contiguous.
-        const int maskPad = sh.padSamples == 0 && sh.height % 2 ? sh.width * (ch - 1) : sh.padSamples;
-        GuardedImage<T> b(sh.width, sh.height, ch, sh.padSamples ? (sh.padSamples + 5) % 7 : 0, (sh.misalign + 3) % 5);
-        GuardedImage<Tpx8u> d(sh.width, sh.height, 1, maskPad, sh.misalign), want(sh.width, sh.height);
-        FillFrom(a, rng, SamplesAround<T>()), FillFrom(b, rng, Pivots<T>());  // many pixels equal in some channels
-        std::vector<T> value(tpx::Stride(k.layout) == 4 && k.layout != Layout::AC4 ? 4 : 3);  // exact length
-        for (T& v : value) v = Pivots<T>()[rng.Int(0, 4)];
-        const std::string where = k.name + " " + std::to_string(sh.width) + "x" + std::to_string(sh.height);
-        for (int op = 0; op <= 4; ++op)
-          ASSERT_TRUE(k.Check(a, b, value.data(), d, want, op, [&](int x, int y, int c) { return Holds(op, a.At(x, y, c), b.At(x, y, c)); },
-                              [&](int x, int y, int c) { return Holds(op, a.At(x, y, c), value[c]); })) << where << " op " << op;
-        // Above 4 (and below 0) nothing runs: the destination keeps the last mask.
-        for (int op : {5, 7, INT_MAX, -1}) {
-          ASSERT_EQ(k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op), tpxOk);
-          ASSERT_EQ(k.cmpC(a.Data(), a.Step(), value.data(), d.Data(), d.Step(), a.Size(), op), tpxOk);
-          ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << where << " op " << op;
-        }
+    Sweep(Cases<T>(), rng, [&](const Case<T>& k, auto& a, auto& b, const T* v, auto& d, auto& want, const std::string& where) {
+      for (int op = 0; op <= 4; ++op)
+        ASSERT_TRUE(k.Check(a, b, v, d, want, op, [op](T x, T y) { return Holds(op, x, y); })) << where << " op " << op;
+      // Above 4 (and below 0) nothing runs: the destination keeps the last mask.
+      for (int op : {5, 7, INT_MAX, -1}) {
+        ASSERT_EQ(k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op), tpxOk);
+        ASSERT_EQ(k.cmpC(a.Data(), a.Step(), v, d.Data(), d.Step(), a.Size(), op), tpxOk);
+        ASSERT_TRUE(SameSamples(d, want) && d.GuardsIntact()) << where << " op " << op;
       }
-    }
+    });
   });
 }
 
-#define ADD_EPS(L)                                                                               \
-  {#L, Layout::L, tpxiCompareEqualEps_32f_##L##R,                                                \
-   [](const Tpx32f* s, int ss, const Tpx32f* v, Tpx8u* d, int ds, TpxSize r, Tpx32f eps) {       \
-     return tpxiCompareEqualEpsC_32f_##L##R(s, ss, Value<Tpx32f, Layout::L>(v), d, ds, r, eps);  \
-   }},
-
+// Differences of the pivots hit 0.5, 2 and 3.5 exactly; a NaN eps makes nothing equal, and so
+// does a NaN in both samples.
 TEST(Compare, EqualEpsIsAbsoluteDifferenceAtMostEps) {
-  const Case<float, float> cases[] = {TPX_COMPARE_EPS_LAYOUTS(ADD_EPS)};
   Rng rng(0xE9);
-  const float nan = std::numeric_limits<float>::quiet_NaN();
-  for (const Case<float, float>& k : cases) {
-    const int ch = tpx::Stride(k.layout);
-    for (const tpxtest::Shape& sh : decide::Shapes(8)) {
-      GuardedImage<float> a(sh.width, sh.height, ch, sh.padSamples, sh.misalign), b(sh.width, sh.height, ch, sh.padSamples ? 1 : 0, 2);
-      GuardedImage<Tpx8u> d(sh.width, sh.height, 1, sh.padSamples, sh.misalign), want(sh.width, sh.height);
-      FillFrom(a, rng, SamplesAround<float>()), FillFrom(b, rng, SamplesAround<float>());
-      const float value[4] = {2.0f, -1.5f, 0.0f, 7.25f};
-      for (float eps : {0.0f, -0.0f, 0.5f, 2.0f, 3.5f, INFINITY, nan}) {
-        // Differences of the pivots hit 0.5, 2 and 3.5 exactly: equality with eps holds.
-        ASSERT_TRUE(k.Check(a, b, value, d, want, eps, [&](int x, int y, int c) { return std::fabs(a.At(x, y, c) - b.At(x, y, c)) <= eps; },
-                            [&](int x, int y, int c) { return std::fabs(a.At(x, y, c) - value[c]) <= eps; })) << " eps " << eps;
-      }
-    }
-  }
-  // eps 0: equal finite samples are equal, two NaN samples are not.
-  const float x[2] = {3.0f, nan};
-  Tpx8u m[2] = {7, 7};
-  EXPECT_TRUE(tpxiCompareEqualEps_32f_C1R(x, 8, x, 8, m, 2, TpxSize{2, 1}, 0.0f) == tpxOk && m[0] == 255 && m[1] == 0);
+  Sweep(std::vector<Case<float, float>>{TPX_COMPARE_EPS_LAYOUTS(ADD_EPS)}, rng,
+        [&](const Case<float, float>& k, auto& a, auto& b, const float* v, auto& d, auto& want, const std::string& where) {
+          for (float eps : {0.0f, -0.0f, 0.5f, 2.0f, 3.5f, INFINITY, NAN})
+            ASSERT_TRUE(k.Check(a, b, v, d, want, eps, [eps](float x, float y) { return std::fabs(x - y) <= eps; })) << where << " eps " << eps;
+        }, decide::Shapes(Lanes<float>()));
 }
 
 // Row kernel twins: every relation, operand form (image/image, image/constant, constant/image),
@@ -172,16 +153,11 @@ TEST(Compare, AvxRowEqualsScalarRow) {
 // those of the rule all the same.
 TEST(Compare, LargeAligned8uImagesGiveTheSameMasks) {
   Rng rng(0xA1);
-  for (Layout l : {Layout::C1, Layout::C3, Layout::AC4}) {
-    const Case<Tpx8u>& k = Cases<Tpx8u>()[l == Layout::C1 ? 0 : l == Layout::C3 ? 1 : 3];
-    const int ch = tpx::Stride(l);
-    GuardedImage<Tpx8u> a(1024, 360, ch), b(1024, 360, ch), d(1024, 360), want(1024, 360);
-    FillFrom(a, rng, Pivots<Tpx8u>()), FillFrom(b, rng, Pivots<Tpx8u>());
-    const std::vector<Tpx8u> value = {3, 100, 101};
-    for (int op : {tpxCmpLessEq, tpxCmpGreater})
-      EXPECT_TRUE(k.Check(a, b, value.data(), d, want, op, [&](int x, int y, int c) { return Holds(op, a.At(x, y, c), b.At(x, y, c)); },
-                          [&](int x, int y, int c) { return Holds(op, a.At(x, y, c), value[c]); }));
-  }
+  Sweep(std::vector<Case<Tpx8u>>{Cases<Tpx8u>()[0], Cases<Tpx8u>()[1], Cases<Tpx8u>()[3]}, rng,  // C1, C3, AC4
+        [&](const Case<Tpx8u>& k, auto& a, auto& b, const Tpx8u* v, auto& d, auto& want, const std::string& where) {
+          for (int op : {tpxCmpLessEq, tpxCmpGreater})
+            EXPECT_TRUE(k.Check(a, b, v, d, want, op, [op](Tpx8u x, Tpx8u y) { return Holds(op, x, y); })) << where;
+        }, {Shape{1024, 360, 0, 0}});
 }
 
 // Pointers, steps, size; then cmpOp (never refused) or eps.
@@ -204,6 +180,7 @@ TEST(Compare, CheckOrderWithTwoFaults) {
   for (Tpx8u b : d) ASSERT_EQ(b, 0x5A);
 }
 
+
 #ifdef TPX_HAVE_OPENCV
 // OpenCV compares plane by plane (each against its own constant); the planes' masks of the
 // considered channels are then combined with bitwise_and.
@@ -212,29 +189,24 @@ TEST(Compare, AgreesWithOpenCvCompare) {
   const int cvOps[] = {cv::CMP_LT, cv::CMP_LE, cv::CMP_EQ, cv::CMP_GE, cv::CMP_GT};
   ForEachType([&](auto tag) {
     using T = decltype(tag);
-    const int depth = cv::DataType<T>::depth;
     for (const Case<T>& k : Cases<T>()) {
-      const int ch = tpx::Stride(k.layout);
+      const int ch = tpx::Stride(k.layout), type = CV_MAKETYPE(cv::DataType<T>::depth, ch);
       GuardedImage<T> a(67, 9, ch, 3, 1), b(67, 9, ch, 0, 2);
       GuardedImage<Tpx8u> d(67, 9);
       FillFrom(a, rng, Pivots<T>()), FillFrom(b, rng, Pivots<T>());  // ties, no NaN
       std::vector<cv::Mat> pa, pb;
-      cv::split(cv::Mat(9, 67, CV_MAKETYPE(depth, ch), a.Data(), a.Step()), pa);
-      cv::split(cv::Mat(9, 67, CV_MAKETYPE(depth, ch), b.Data(), b.Step()), pb);
+      cv::split(cv::Mat(9, 67, type, a.Data(), a.Step()), pa), cv::split(cv::Mat(9, 67, type, b.Data(), b.Step()), pb);
       const T value[4] = {Pivots<T>()[1], Pivots<T>()[2], Pivots<T>()[3], Pivots<T>()[0]};
       for (int op = 0; op <= 4; ++op)
         for (bool withValue : {false, true}) {
           cv::Mat all(9, 67, CV_8U, cv::Scalar(255)), m;
           for (int c = 0; c < tpx::Processed(k.layout); ++c) {
-            if (withValue) cv::compare(pa[c], static_cast<double>(value[c]), m, cvOps[op]);
-            else cv::compare(pa[c], pb[c], m, cvOps[op]);
+            cv::compare(pa[c], withValue ? cv::Mat(pa[c].size(), pa[c].type(), cv::Scalar(double(value[c]))) : pb[c], m, cvOps[op]);
             cv::bitwise_and(all, m, all);
           }
-          const TpxStatus st = withValue ? k.cmpC(a.Data(), a.Step(), value, d.Data(), d.Step(), a.Size(), op)
-                                         : k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op);
-          ASSERT_EQ(st, tpxOk);
-          for (int y = 0; y < 9; ++y)
-            ASSERT_EQ(0, std::memcmp(d.Row(y), all.ptr(y), 67)) << k.name << " op " << op << " value " << withValue;
+          ASSERT_EQ(withValue ? k.cmpC(a.Data(), a.Step(), value, d.Data(), d.Step(), a.Size(), op)
+                              : k.cmp(a.Data(), a.Step(), b.Data(), b.Step(), d.Data(), d.Step(), a.Size(), op), tpxOk);
+          ASSERT_EQ(cv::norm(cv::Mat(9, 67, CV_8U, d.Data(), d.Step()), all, cv::NORM_INF), 0) << k.name << " op " << op << " value " << withValue;
         }
     }
   });
