@@ -3,8 +3,6 @@
 #pragma once
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <cstring>
 #include <type_traits>
 #include <vector>
 
@@ -37,9 +35,11 @@ inline constexpr int kLayoutWritten[4] = {1, 3, 4, 3};
 template <class T>
 constexpr int Vec() { return static_cast<int>(32 / sizeof(T)); }
 
-inline int CacheTiny(int* size) { *size = 1; return 0; }            // every call past a floor streams
-inline int CacheUnknown(int* size) { *size = 0; return -1; }        // plain stores
-inline int CacheHuge(int* size) { *size = 0x7fffffff; return 0; }   // plain stores, query succeeds
+// Cache queries for the drivers; each counts itself in g_cacheQueries.
+inline int g_cacheQueries = 0;
+inline int CacheTiny(int* size) { return ++g_cacheQueries, *size = 1, 0; }            // every call past a floor streams
+inline int CacheUnknown(int* size) { return ++g_cacheQueries, *size = 0, -1; }        // plain stores
+inline int CacheHuge(int* size) { return ++g_cacheQueries, *size = 0x7fffffff, 0; }   // plain stores, query succeeds
 
 template <class F>
 void Each(int w, int h, F&& f) {
@@ -94,29 +94,24 @@ void StreamsLikePlain(GuardedImage<T>& a, F&& f) {
 using Avx = std::integral_constant<tpx::Isa, tpx::Isa::kAvx>;
 using Scalar = std::integral_constant<tpx::Isa, tpx::Isa::kScalar>;
 
-template <class T>
-T* Aligned64(std::vector<T>& v) {
-  return v.data() + ((0u - reinterpret_cast<std::uintptr_t>(v.data())) & 63u) / sizeof(T);
-}
-
 // Runs k(isa, buffers) with the vector kernels on random 64-byte aligned buffers of the given
-// sample counts and with their scalar twins on copies of them: every buffer must end bytewise equal.
+// sample counts and with their scalar twins on copies of them: every buffer must end bytewise
+// equal, and nothing past a buffer's end may be written.
 template <class T, class K>
 ::testing::AssertionResult Twin(Rng& rng, const std::vector<int>& sizes, K&& k) {
-  std::vector<std::vector<T>> a(sizes.size()), b(sizes.size());
+  std::vector<GuardedImage<T>> a, b;  // reserved: never moved, the pointers stay
+  a.reserve(sizes.size()), b.reserve(sizes.size());
   std::vector<T*> pa, pb;
-  for (std::size_t i = 0; i < sizes.size(); ++i) {
-    a[i].resize(sizes[i] + 64 / sizeof(T));
-    b[i].resize(a[i].size());
-    pa.push_back(Aligned64(a[i]));
-    pb.push_back(Aligned64(b[i]));
-    for (int j = 0; j < sizes[i]; ++j) pb[i][j] = pa[i][j] = rng.Sample<T>();
+  for (int n : sizes) {
+    tpxtest::FillRandom(a.emplace_back(n, 1), rng);
+    b.emplace_back(n, 1).CopyFrom(a.back());
+    pa.push_back(a.back().Data()), pb.push_back(b.back().Data());
   }
   k(Avx{}, pa.data());
   k(Scalar{}, pb.data());
   for (std::size_t i = 0; i < sizes.size(); ++i)
-    if (std::memcmp(pa[i], pb[i], sizes[i] * sizeof(T)) != 0)
-      return ::testing::AssertionFailure() << "buffer " << i << " differs";
+    if (::testing::AssertionResult r = Same(a[i], b[i]); !r || !b[i].GuardsIntact())
+      return ::testing::AssertionFailure() << "buffer " << i << ": " << r.message();
   return ::testing::AssertionSuccess();
 }
 
