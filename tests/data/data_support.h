@@ -11,6 +11,9 @@
 #include "support/random.h"
 #include "support/sweep.h"
 #include "tpxip.h"
+#ifdef TPX_HAVE_OPENCV
+#include <opencv2/core.hpp>
+#endif
 
 namespace datatest {
 
@@ -55,6 +58,26 @@ template <class T>
   if (tpxtest::SameSamples(got, want, &i, &y)) return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure() << "sample " << i << " of row " << y << " in " << want.Width() << "x" << want.Height();
 }
+
+#ifdef TPX_HAVE_OPENCV
+// A cv::Mat header on an image's region.
+template <class T>
+cv::Mat AsMat(const GuardedImage<T>& img) {
+  return cv::Mat(img.Height(), img.Width(), CV_MAKETYPE(cv::DataType<T>::depth, img.Channels()),
+                 const_cast<T*>(img.Data()), static_cast<std::size_t>(img.Step()));
+}
+
+// OpenCV as an oracle: op(source, result) must give the samples of `got`, bytewise.
+template <class T, class Op>
+::testing::AssertionResult LikeOpenCv(const GuardedImage<T>& src, const GuardedImage<T>& got, Op&& op) {
+  cv::Mat want;
+  op(AsMat(src), want);
+  for (int y = 0; y < got.Height(); ++y)
+    if (want.size() != cv::Size(got.Width(), got.Height()) || std::memcmp(want.ptr(y), got.Row(y), got.RowSamples() * sizeof(T)))
+      return ::testing::AssertionFailure() << "row " << y << " of " << got.Width() << "x" << got.Height() << " differs from OpenCV";
+  return ::testing::AssertionSuccess();
+}
+#endif
 
 // The destination of a sweep: random at the source's extents, random at swapped extents, or a
 // copy of the source for the in-place forms.
