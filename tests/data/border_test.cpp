@@ -16,6 +16,7 @@ using namespace datatest;  // NOLINT
 using tpx::BorderKind;
 using tpx::Isa;
 using tpx::Layout;
+using tpx::RunOp;
 
 const BorderKind kKinds[] = {BorderKind::kRepl,       BorderKind::kWrap,  BorderKind::kMirror,
                              BorderKind::kMirrorEdge, BorderKind::kConst, BorderKind::kTransp};
@@ -32,32 +33,6 @@ long long ModelIndex(BorderKind kind, long long i, long long n) {
     }
   }
   return i;
-}
-
-// The destination a call must leave: `d` is the destination as it stood (for the in-place forms
-// with the source already in it), src(x, y, c) reads the source. AC4 border pixels keep alpha;
-// rows above and below are whole copies of an edge row.
-template <class T, class Src>
-std::vector<T> ModelImage(BorderKind kind, int S, bool ac4, Src src, long long w, long long h, std::vector<T> d,
-                          long long dw, long long dh, long long top, long long left, const T* value) {
-  const int written = ac4 ? 3 : S;
-  auto at = [&](long long x, long long y) { return &d[static_cast<std::size_t>((y * dw + x) * S)]; };
-  for (long long y = top; y < top + h; ++y)
-    for (long long x = 0; x < dw; ++x) {
-      const long long i = x - left, j = ModelIndex(kind, i, w);
-      const bool inside = i >= 0 && i < w;
-      for (int c = 0; c < (inside ? S : written); ++c)
-        if (inside || j >= 0) at(x, y)[c] = src(j, y - top, c);
-        else if (kind == BorderKind::kConst) at(x, y)[c] = value[c];
-    }
-  for (long long y = 0; y < dh; ++y) {
-    if ((y >= top && y < top + h) || kind == BorderKind::kTransp) continue;
-    for (long long x = 0; x < dw && kind == BorderKind::kConst; ++x)
-      for (int c = 0; c < written; ++c) at(x, y)[c] = value[c];
-    if (kind != BorderKind::kConst)
-      std::memcpy(at(0, y), at(0, top + ModelIndex(kind, y - top, h)), static_cast<std::size_t>(dw * S) * sizeof(T));
-  }
-  return d;
 }
 
 template <class T>
@@ -126,7 +101,9 @@ Geometry RandomGeometry(Rng& rng, int maxW) {
   return {w, h, left, top, right, bottom, rng.Int(0, 2) * 7, rng.Int(0, 3), rng.Int(0, 2) * 5, rng.Int(0, 3)};
 }
 
-// A random source and destination for g, and the destination the model expects.
+// A random source and destination for g, and the destination a call must leave (for the in-place
+// forms with the source already in place). AC4 border pixels keep alpha; rows above and below are
+// whole copies of an edge row.
 template <class T>
 struct Scene {
   GuardedImage<T> src, dst;
@@ -139,8 +116,22 @@ struct Scene {
     for (T& v : value) v = rng.template Sample<T>();
     for (int y = 0; y < g.h && inPlace; ++y)
       std::memcpy(&dst.At(g.left, g.top + y), src.Row(y), static_cast<std::size_t>(g.w * S) * sizeof(T));
-    want = ModelImage<T>(kind, S, ac4, [&](long long x, long long y, int c) { return src.At(int(x), int(y), c); }, g.w,
-                         g.h, dst.Samples(), g.dw(), g.dh(), g.top, g.left, value);
+    want = dst.Samples();
+    auto at = [&](long long x, long long y) { return &want[static_cast<std::size_t>((y * g.dw() + x) * S)]; };
+    for (int y = g.top; y < g.top + g.h; ++y)
+      for (int x = 0; x < g.dw(); ++x) {
+        const long long i = x - g.left, j = ModelIndex(kind, i, g.w);
+        for (int c = 0; c < (i >= 0 && i < g.w ? S : ac4 ? 3 : S); ++c)
+          if (j >= 0) at(x, y)[c] = src.At(int(j), y - g.top, c);
+          else if (kind == BorderKind::kConst) at(x, y)[c] = value[c];
+      }
+    for (int y = 0; y < g.dh(); ++y) {
+      if ((y >= g.top && y < g.top + g.h) || kind == BorderKind::kTransp) continue;
+      for (int x = 0; x < g.dw() && kind == BorderKind::kConst; ++x)
+        for (int c = 0; c < (ac4 ? 3 : S); ++c) at(x, y)[c] = value[c];
+      if (kind != BorderKind::kConst)
+        std::memcpy(at(0, y), at(0, g.top + ModelIndex(kind, y - g.top, g.h)), static_cast<std::size_t>(g.dw() * S) * sizeof(T));
+    }
   }
 };
 
@@ -176,14 +167,10 @@ TEST(BorderIndex, RulesAndRunsAgreeWithTheStepwiseModel) {
     tpx::ForEachBorderRun(k, first, count, n, [&](const tpx::BorderRun& r) {
       ok = ok && r.at == next && r.len > 0;
       for (long long j = 0; j < r.len; ++j) {
-        const long long want = ModelIndex(k, first + r.at + j, n);
-        switch (r.op) {
-          case tpx::RunOp::kForward: ok = ok && want == r.src + j; break;
-          case tpx::RunOp::kBackward: ok = ok && want == r.src - j; break;
-          case tpx::RunOp::kRepeat: ok = ok && want == r.src; break;
-          case tpx::RunOp::kValue: ok = ok && want == -1 && k == BorderKind::kConst; break;
-          case tpx::RunOp::kKeep: ok = ok && want == -1 && k == BorderKind::kTransp; break;
-        }
+        const RunOp op = r.op;
+        const long long at = op == RunOp::kForward ? r.src + j : op == RunOp::kBackward ? r.src - j : op == RunOp::kRepeat ? r.src : -1;
+        ok = ok && ModelIndex(k, first + r.at + j, n) == at && (op != RunOp::kValue || k == BorderKind::kConst) &&
+             (op != RunOp::kKeep || k == BorderKind::kTransp);
       }
       next += r.len;
     });
@@ -252,11 +239,12 @@ template <class T>
   const TpxSize sr{g.w, g.h}, dr{g.dw(), g.dh()};
   const TpxSizeL srl{g.w, g.h}, drl{g.dw(), g.dh()};
   const T* v = s.value;
+  const long long wide = g.dh() == 1 ? 0x100000000LL : 0;  // one row: the _L forms take steps past 32 bits
   const TpxStatus st =
       form == 0   ? m.r(v, s.src.Data(), s.src.Step(), sr, s.dst.Data(), s.dst.Step(), dr, g.top, g.left)
       : form == 1 ? m.ir(v, in, s.dst.Step(), sr, dr, g.top, g.left)
-      : form == 2 ? m.rl(v, s.src.Data(), s.src.Step(), srl, s.dst.Data(), s.dst.Step(), drl, g.top, g.left)
-      : form == 3 ? m.irl(v, in, s.dst.Step(), srl, drl, g.top, g.left)
+      : form == 2 ? m.rl(v, s.src.Data(), s.src.Step() + wide, srl, s.dst.Data(), s.dst.Step() + wide, drl, g.top, g.left)
+      : form == 3 ? m.irl(v, in, s.dst.Step() + wide, srl, drl, g.top, g.left)
                   : m.r(v, in, m.kind == BorderKind::kWrap ? s.dst.Step() : -5, sr, in, s.dst.Step(), dr, g.top, g.left);
   ::testing::AssertionResult fail = ::testing::AssertionFailure()
       << m.name << " form " << form << " w=" << g.w << " h=" << g.h << " l/t/r/b=" << g.left << "/" << g.top << "/"
@@ -284,7 +272,11 @@ TEST(BorderCopy, EveryMemberAndFormMatchesTheModel) {
     members += static_cast<int>(list.size());
     for (const auto& m : list)
       for (int form = 0; form < (m.kind == BorderKind::kConst ? 4 : 5); ++form)
-        for (int trial = 0; trial < 10; ++trial) ASSERT_TRUE(CheckCall(m, form, RandomGeometry(rng, 3 * 16 + 3), rng));
+        for (int trial = 0; trial < 10; ++trial) {
+          Geometry g = RandomGeometry(rng, 3 * 16 + 3);
+          if (trial == 0) g.h = 1, g.top = g.bottom = 0;
+          ASSERT_TRUE(CheckCall(m, form, g, rng));
+        }
   };
   std::apply([&](const auto&... lists) { (run(lists), ...); }, Members());
   EXPECT_EQ(members, 57);  // 20 Const, 20 Replicate, 15 Mirror, 2 Wrap
@@ -327,20 +319,11 @@ TEST(BorderCopyChecks, OrderIsPointersStepsSizes) {
 }
 
 TEST(BorderCopyL, WideCallsRunInSixtyFourBits) {
-  Rng rng(6);
-  // One row, so steps beyond 32 bits are never taken: the call does not fit, and the 64-bit
-  // path must give what the model says.
   const long long huge = 0x100000000LL;
-  for (int trial = 0; trial < 20; ++trial) {
-    const Geometry g{rng.Int(1, 9), 1, rng.Int(0, 40), 0, rng.Int(0, 40), 0, 0, 0, 0, 0};
-    Scene<Tpx32f> sc(BorderKind::kMirror, 1, false, false, g, rng);
-    const TpxSizeL sr{g.w, 1}, dr{g.dw(), 1};
-    // A negative step that does not fit still meets the step check.
-    ASSERT_EQ(tpxiCopyMirrorBorder_32f_C1R_L(sc.src.Data(), huge, sr, sc.dst.Data(), -huge, dr, 0, g.left), tpxErrStep);
-    ASSERT_EQ(tpxiCopyMirrorBorder_32f_C1R_L(sc.src.Data(), huge, sr, sc.dst.Data(), huge, dr, 0, g.left), tpxOk);
-    ASSERT_TRUE(SameBytes(sc.dst.Samples(), sc.want) && sc.dst.GuardsIntact());
-  }
   Tpx8u px[4] = {};
+  Tpx32f f[4] = {};
+  // A negative step that does not fit still meets the step check.
+  EXPECT_EQ(tpxiCopyMirrorBorder_32f_C1R_L(f, huge, {1, 1}, f + 1, -huge, {3, 1}, 0, 1), tpxErrStep);
   // Fits: narrowed, and the 32-bit status stands. Does not fit: an empty extent is tpxOk at once.
   EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R_L(px, 4, {0, 1}, px + 1, 4, {1, 1}, 0, 0), tpxErrSize);
   EXPECT_EQ(tpxiCopyReplicateBorder_8u_C1R_L(nullptr, huge, {0, 1}, px, 4, {1, 1}, 0, 0), tpxOk);
@@ -349,7 +332,7 @@ TEST(BorderCopyL, WideCallsRunInSixtyFourBits) {
   Tpx32s* p32 = reinterpret_cast<Tpx32s*>(px);
   EXPECT_EQ(tpxiCopyWrapBorder_32s_C1R_L(p32, 4, {1, 1}, p32, 4, {1, 1}, huge, 0), tpxErrSize);
   EXPECT_EQ(tpxiCopyMirrorBorder_8u_C1IR_L(px, 4, {1, 1}, {1, 1}, 0, -huge), tpxErrSize);
+  EXPECT_EQ(0, px[0] + px[1] + px[2] + px[3] + f[0] + f[1] + f[2] + f[3]);  // nothing written
 }
-
 
 }  // namespace
