@@ -20,23 +20,16 @@ using Fn = TpxStatus (*)(const T*, int, T*, int, TpxSize);
 
 // Every member of one type; layouts in the order C1, C3, C4, AC4; channel forms C3CR, C4CR,
 // C3C1R, C4C1R, C1C3R, C1C4R, C3AC4R, AC4C3R.
-template <class T>
-struct Api;
 #define TPX_COPY_CH(TT, F) tpxiCopy_##TT##_##F##R
-#define TPX_COPY_API(TT)                                                                                     \
-  template <>                                                                                                \
-  struct Api<Tpx##TT> {                                                                                      \
-    static constexpr Fn<Tpx##TT> plain[4] = DATATEST_L4(tpxiCopy, TT, R);                                      \
-    static constexpr decltype(&tpxiCopy_##TT##_C1R_L) twin[4] = DATATEST_L4(tpxiCopy, TT, R_L);                \
-    static constexpr decltype(&tpxiCopy_##TT##_C1MR) masked[4] = DATATEST_L4(tpxiCopy, TT, MR);                \
-    static constexpr Fn<Tpx##TT> chan[8] = {TPX_COPY_CH(TT, C3C), TPX_COPY_CH(TT, C4C), TPX_COPY_CH(TT, C3C1),  \
-        TPX_COPY_CH(TT, C4C1), TPX_COPY_CH(TT, C1C3), TPX_COPY_CH(TT, C1C4), TPX_COPY_CH(TT, C3AC4), TPX_COPY_CH(TT, AC4C3)}; \
-    static constexpr auto c3p3 = tpxiCopy_##TT##_C3P3R, c4p4 = tpxiCopy_##TT##_C4P4R;                        \
-    static constexpr auto p3c3 = tpxiCopy_##TT##_P3C3R, p4c4 = tpxiCopy_##TT##_P4C4R;                        \
-  };
-DATATEST_TYPES(TPX_COPY_API)
-
-DATATEST_TYPED_SUITE(CopyTest);
+#define DATATEST_TABLES(TT)                                                                                    \
+  static constexpr Fn<Tpx##TT> plain[4] = DATATEST_L4(tpxiCopy, TT, R);                                        \
+  static constexpr decltype(&tpxiCopy_##TT##_C1R_L) twin[4] = DATATEST_L4(tpxiCopy, TT, R_L);                  \
+  static constexpr decltype(&tpxiCopy_##TT##_C1MR) masked[4] = DATATEST_L4(tpxiCopy, TT, MR);                  \
+  static constexpr Fn<Tpx##TT> chan[8] = {TPX_COPY_CH(TT, C3C), TPX_COPY_CH(TT, C4C), TPX_COPY_CH(TT, C3C1),    \
+      TPX_COPY_CH(TT, C4C1), TPX_COPY_CH(TT, C1C3), TPX_COPY_CH(TT, C1C4), TPX_COPY_CH(TT, C3AC4), TPX_COPY_CH(TT, AC4C3)}; \
+  static constexpr auto c3p3 = tpxiCopy_##TT##_C3P3R, c4p4 = tpxiCopy_##TT##_C4P4R;                          \
+  static constexpr auto p3c3 = tpxiCopy_##TT##_P3C3R, p4c4 = tpxiCopy_##TT##_P4C4R;
+DATATEST_API(CopyTest);
 
 // Forms: plain, masked, the _L twin with small steps (narrowed to the 32-bit export) from a
 // bottom-up source, and with steps past 0x7ffffffe, which only a single row may have (walked as it is).

@@ -30,6 +30,14 @@ using AllTypes = ::testing::Types<Tpx8u, Tpx16u, Tpx16s, Tpx32s, Tpx32f>;
   template <class T>                               \
   class Name : public ::testing::Test {};          \
   TYPED_TEST_SUITE(Name, datatest::AllTypes)
+// A file's member tables and typed suite: the file defines DATATEST_TABLES(TT), the static members
+// of Api<Tpx##TT>, then writes DATATEST_API(Suite);
+#define DATATEST_SPECIALIZE(TT) template <> struct Api<Tpx##TT> { DATATEST_TABLES(TT) };
+#define DATATEST_API(Suite)               \
+  template <class T>                      \
+  struct Api;                             \
+  DATATEST_TYPES(DATATEST_SPECIALIZE)     \
+  DATATEST_TYPED_SUITE(Suite)
 
 // Layouts C1, C3, C4, AC4 in this order: samples a pixel and samples an operation writes.
 inline constexpr int kLayoutChannels[4] = {1, 3, 4, 4};

@@ -10,17 +10,10 @@ namespace {
 
 using namespace datatest;  // NOLINT
 
-template <class T>
-struct Api;
-#define TPX_MIRROR_API(TT)                                                                                      \
-  template <>                                                                                                   \
-  struct Api<Tpx##TT> {                                                                                         \
-    static constexpr decltype(&tpxiMirror_##TT##_C1R) out[4] = DATATEST_L4(tpxiMirror, TT, R);                 \
-    static constexpr decltype(&tpxiMirror_##TT##_C1IR) in[4] = DATATEST_L4(tpxiMirror, TT, IR);                \
-  };
-DATATEST_TYPES(TPX_MIRROR_API)
-
-DATATEST_TYPED_SUITE(MirrorTest);
+#define DATATEST_TABLES(TT)                                                                      \
+  static constexpr decltype(&tpxiMirror_##TT##_C1R) out[4] = DATATEST_L4(tpxiMirror, TT, R);   \
+  static constexpr decltype(&tpxiMirror_##TT##_C1IR) in[4] = DATATEST_L4(tpxiMirror, TT, IR);
+DATATEST_API(MirrorTest);
 
 TYPED_TEST(MirrorTest, EveryAxisAndLayout) {
   using T = TypeParam;

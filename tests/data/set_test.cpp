@@ -11,21 +11,13 @@ namespace {
 
 using namespace datatest;  // NOLINT
 
-template <class T>
-struct Api;
-#define TPX_SET_API(TT)                                                                                          \
-  template <>                                                                                                    \
-  struct Api<Tpx##TT> {                                                                                          \
-    static constexpr auto c1 = tpxiSet_##TT##_C1R, c3c = tpxiSet_##TT##_C3CR, c4c = tpxiSet_##TT##_C4CR;         \
-    static constexpr auto c1m = tpxiSet_##TT##_C1MR;                                                             \
-    static constexpr decltype(&tpxiSet_##TT##_C3R) byPtr[3] = {tpxiSet_##TT##_C3R, tpxiSet_##TT##_C4R,           \
-                                                               tpxiSet_##TT##_AC4R};                             \
-    static constexpr decltype(&tpxiSet_##TT##_C3MR) byPtrM[3] = {tpxiSet_##TT##_C3MR, tpxiSet_##TT##_C4MR,       \
-                                                                 tpxiSet_##TT##_AC4MR};                          \
-  };
-DATATEST_TYPES(TPX_SET_API)
-
-DATATEST_TYPED_SUITE(SetTest);
+#define TPX_SET3(TT, S) {tpxiSet_##TT##_C3##S, tpxiSet_##TT##_C4##S, tpxiSet_##TT##_AC4##S}
+#define DATATEST_TABLES(TT)                                                                                    \
+  static constexpr auto c1 = tpxiSet_##TT##_C1R, c3c = tpxiSet_##TT##_C3CR, c4c = tpxiSet_##TT##_C4CR;         \
+  static constexpr auto c1m = tpxiSet_##TT##_C1MR;                                                             \
+  static constexpr decltype(&tpxiSet_##TT##_C3R) byPtr[3] = TPX_SET3(TT, R);                                   \
+  static constexpr decltype(&tpxiSet_##TT##_C3MR) byPtrM[3] = TPX_SET3(TT, MR);
+DATATEST_API(SetTest);
 
 // Layouts 0..3 as everywhere; 4 and 5 are C3CR and C4CR, one channel at a random pointer offset.
 TYPED_TEST(SetTest, EveryMemberPlainAndMasked) {

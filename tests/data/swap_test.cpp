@@ -8,19 +8,12 @@ namespace {
 
 using namespace datatest;  // NOLINT
 
-template <class T>
-struct Api;
-#define TPX_SWAP_API(TT)                                                                          \
-  template <>                                                                                     \
-  struct Api<Tpx##TT> {                                                                           \
-    static constexpr decltype(&tpxiSwapChannels_##TT##_C3R) forms[4] = {                          \
-        tpxiSwapChannels_##TT##_C3R, tpxiSwapChannels_##TT##_C4R, tpxiSwapChannels_##TT##_AC4R,   \
-        tpxiSwapChannels_##TT##_C4C3R};                                                           \
-    static constexpr auto c3c4 = tpxiSwapChannels_##TT##_C3C4R;                                   \
-  };
-DATATEST_TYPES(TPX_SWAP_API)
-
-DATATEST_TYPED_SUITE(SwapTest);
+#define TPX_SWAP(TT, F) tpxiSwapChannels_##TT##_##F##R
+#define DATATEST_TABLES(TT)                                                                                    \
+  static constexpr decltype(&TPX_SWAP(TT, C3)) forms[4] = {TPX_SWAP(TT, C3), TPX_SWAP(TT, C4), TPX_SWAP(TT, AC4), \
+                                                           TPX_SWAP(TT, C4C3)};                                 \
+  static constexpr auto c3c4 = TPX_SWAP(TT, C3C4);
+DATATEST_API(SwapTest);
 
 // Forms C3, C4, AC4, C4C3, (4) C3C4R, where entry 3 writes val and above 3 leaves the channel, and
 // for 8u (5, 6) the in-place C3IR and C4IR.

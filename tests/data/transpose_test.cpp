@@ -10,16 +10,11 @@ namespace {
 
 using namespace datatest;  // NOLINT
 
-template <class T>
-struct Api;
 #define TPX_T3(TT, S) {tpxiTranspose_##TT##_C1##S, tpxiTranspose_##TT##_C3##S, tpxiTranspose_##TT##_C4##S}
-#define TPX_TRANSPOSE_API(TT)                                                                             \
-  template <>                                                                                             \
-  struct Api<Tpx##TT> {                                                                                   \
-    static constexpr decltype(&tpxiTranspose_##TT##_C1R) out[3] = TPX_T3(TT, R);                          \
-    static constexpr decltype(&tpxiTranspose_##TT##_C1IR) in[3] = TPX_T3(TT, IR);                         \
-  };
-DATATEST_TYPES(TPX_TRANSPOSE_API)
+#define DATATEST_TABLES(TT)                                                                      \
+  static constexpr decltype(&tpxiTranspose_##TT##_C1R) out[3] = TPX_T3(TT, R);                  \
+  static constexpr decltype(&tpxiTranspose_##TT##_C1IR) in[3] = TPX_T3(TT, IR);
+DATATEST_API(TransposeTest);
 
 constexpr int kChannels[4] = {1, 3, 4, 2};  // 3: the 32fc member, a pixel of two floats
 
@@ -33,8 +28,6 @@ std::vector<Shape> Extents(bool squares) {
     out.push_back({squares ? sq[k] : wh[k][0], squares ? sq[k] : wh[k][1], k % 4 * 3, k % 3});
   return out;
 }
-
-DATATEST_TYPED_SUITE(TransposeTest);
 
 // Layouts C1, C3, C4 and for 32f (3) the 32fc member, which has no IR form: there forms 1 and 2
 // both give one image twice.
