@@ -67,6 +67,16 @@ template <class T>
   return ::testing::AssertionFailure() << "sample " << i << " of row " << y << " in " << want.Width() << "x" << want.Height();
 }
 
+// Check order: call(faults) makes one call with the faults of a bit set, bit i standing for
+// order[i] (tpxOk: a fault the family ignores). For every set the status must be its first fault's.
+template <class Call>
+::testing::AssertionResult FirstFaultWins(const std::vector<TpxStatus>& order, Call&& call) {
+  for (int f = 0; f < 1 << order.size(); ++f)
+    if (const TpxStatus want = f ? order[__builtin_ctz(f)] : tpxOk, got = call(f); got != want)
+      return ::testing::AssertionFailure() << "faults " << f << ": status " << got << " instead of " << want;
+  return ::testing::AssertionSuccess();
+}
+
 #ifdef TPX_HAVE_OPENCV
 // OpenCV as an oracle: op(source, result) on a cv::Mat header of the source's region must give
 // the samples of `got`, bytewise.

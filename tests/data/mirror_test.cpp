@@ -47,23 +47,22 @@ TYPED_TEST(MirrorTest, EveryAxisAndLayout) {
 TYPED_TEST(MirrorTest, CheckOrder) {
   using T = TypeParam;
   T buf[64] = {};
+  const TpxSize two{1, 2};
   for (int l = 0; l < 4; ++l) {
     const auto fn = Api<T>::out[l];
-    EXPECT_EQ(tpxErrSize, fn(buf, 8, buf + 32, 8, TpxSize{0, 2}, 5));  // extents before the axis
-    EXPECT_EQ(tpxErrMirrorAxis, fn(buf, 8, buf + 32, 8, TpxSize{1, 2}, 5));
-    EXPECT_EQ(tpxErrMirrorAxis, fn(buf, 8, buf + 32, 8, TpxSize{1, 2}, -1));
-    EXPECT_EQ(tpxErrNullPtr, fn(nullptr, 8, buf, 8, TpxSize{0, 2}, 7));
-    EXPECT_EQ(tpxOk, fn(buf + 16, -8, buf + 32, 0, TpxSize{1, 2}, 1));  // no step check on axes 0..2
-    // Diagonals: pointers, steps below 1, extents, overlap.
-    EXPECT_EQ(tpxErrNullPtr, fn(buf, 0, nullptr, 0, TpxSize{0, 0}, 3));
-    EXPECT_EQ(tpxErrStep, fn(buf, 0, buf + 32, 8, TpxSize{0, 0}, 4));
-    EXPECT_EQ(tpxErrSize, fn(buf, 16, buf + 32, 16, TpxSize{0, 1}, 3));
-    EXPECT_EQ(tpxErrNotSupportedMode, fn(buf, 16, buf, 16, TpxSize{1, 1}, 3));  // one image: no diversion
-    EXPECT_EQ(tpxOk, fn(buf, 16, buf + 32, 16, TpxSize{1, 2}, 4));
-    // In-place forms: pointer, extents, the axis; a diagonal is refused.
-    EXPECT_EQ(tpxErrNullPtr, Api<T>::in[l](nullptr, 8, TpxSize{0, 0}, 9));
-    EXPECT_EQ(tpxErrSize, Api<T>::in[l](buf, 8, TpxSize{0, 1}, 9));
-    EXPECT_EQ(tpxErrMirrorAxis, Api<T>::in[l](buf, 8, TpxSize{1, 1}, 3));
+    // Axes 0..2: pointers, extents, the axis (5 here, -1 below); no step check.
+    EXPECT_TRUE(FirstFaultWins({tpxErrNullPtr, tpxErrSize, tpxErrMirrorAxis, tpxOk}, [&](int f) {
+      return fn(f & 1 ? nullptr : buf + 16, f & 8 ? -8 : 8, buf + 32, f & 8 ? 0 : 8, f & 2 ? TpxSize{0, 2} : two, f & 4 ? 5 : 1);
+    }));
+    EXPECT_EQ(tpxErrMirrorAxis, fn(buf, 8, buf + 32, 8, two, -1));
+    // Diagonals: pointers, steps below 1, extents, overlap (one image given twice is not diverted).
+    EXPECT_TRUE(FirstFaultWins({tpxErrNullPtr, tpxErrStep, tpxErrSize, tpxErrNotSupportedMode}, [&](int f) {
+      return fn(buf, f & 2 ? 0 : 16, f & 1 ? nullptr : f & 8 ? buf : buf + 32, 16, f & 4 ? TpxSize{0, 1} : two, 3 + l % 2);
+    }));
+    // In place: pointer, extents, the axis, where a diagonal is refused.
+    EXPECT_TRUE(FirstFaultWins({tpxErrNullPtr, tpxErrSize, tpxErrMirrorAxis}, [&](int f) {
+      return Api<T>::in[l](f & 1 ? nullptr : buf, 8, f & 2 ? TpxSize{0, 1} : TpxSize{1, 1}, f & 4 ? 3 + l % 2 : l % 3);
+    }));
   }
 }
 
