@@ -35,10 +35,6 @@ long long ModelIndex(BorderKind kind, long long i, long long n) {
   return i;
 }
 
-template <class T>
-bool SameBytes(const std::vector<T>& a, const std::vector<T>& b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
-}
 
 // ---- Members: the R, IR, R_L and IR_L forms of each, the caller's value first ----
 // Passes the value where the export takes one: a pixel by pointer, or one sample for C1.
@@ -81,31 +77,29 @@ Geometry RandomGeometry(Rng& rng, int maxW) {
 // whole copies of an edge row.
 template <class T>
 struct Scene {
-  GuardedImage<T> src, dst;
+  GuardedImage<T> src, dst, want;
   T value[4];
-  std::vector<T> want;
   Scene(BorderKind kind, int S, bool ac4, bool inPlace, const Geometry& g, Rng& rng)
-      : src(g.w, g.h, S, g.srcPad, g.srcMis), dst(g.dw(), g.dh(), S, g.dstPad, g.dstMis) {
+      : src(g.w, g.h, S, g.srcPad, g.srcMis), dst(g.dw(), g.dh(), S, g.dstPad, g.dstMis), want(g.dw(), g.dh(), S) {
     tpxtest::FillRandom(src, rng);
     tpxtest::FillRandom(dst, rng);
     for (T& v : value) v = rng.template Sample<T>();
     for (int y = 0; y < g.h && inPlace; ++y)
       std::memcpy(&dst.At(g.left, g.top + y), src.Row(y), static_cast<std::size_t>(g.w * S) * sizeof(T));
-    want = dst.Samples();
-    auto at = [&](long long x, long long y) { return &want[static_cast<std::size_t>((y * g.dw() + x) * S)]; };
+    want.CopyFrom(dst);
     for (int y = g.top; y < g.top + g.h; ++y)
       for (int x = 0; x < g.dw(); ++x) {
         const long long i = x - g.left, j = ModelIndex(kind, i, g.w);
         for (int c = 0; c < (i >= 0 && i < g.w ? S : ac4 ? 3 : S); ++c)
-          if (j >= 0) at(x, y)[c] = src.At(int(j), y - g.top, c);
-          else if (kind == BorderKind::kConst) at(x, y)[c] = value[c];
+          if (j >= 0) want.At(x, y, c) = src.At(int(j), y - g.top, c);
+          else if (kind == BorderKind::kConst) want.At(x, y, c) = value[c];
       }
     for (int y = 0; y < g.dh(); ++y) {
       if ((y >= g.top && y < g.top + g.h) || kind == BorderKind::kTransp) continue;
       for (int x = 0; x < g.dw() && kind == BorderKind::kConst; ++x)
-        for (int c = 0; c < (ac4 ? 3 : S); ++c) at(x, y)[c] = value[c];
+        for (int c = 0; c < (ac4 ? 3 : S); ++c) want.At(x, y, c) = value[c];
       if (kind != BorderKind::kConst)
-        std::memcpy(at(0, y), at(0, g.top + ModelIndex(kind, y - g.top, g.h)), static_cast<std::size_t>(g.dw() * S) * sizeof(T));
+        std::memcpy(want.Row(y), want.Row(g.top + int(ModelIndex(kind, y - g.top, g.h))), static_cast<std::size_t>(g.dw() * S) * sizeof(T));
     }
   }
 };
@@ -179,16 +173,14 @@ void ExtendTwins(Rng& rng) {
       const BorderKind kind = kKinds[trial % 6];
       const Geometry g = RandomGeometry(rng, 3 * 32 / static_cast<int>(sizeof(T)) + 3);
       Scene<T> a(kind, tpx::Stride(kL), tpx::KeepsAlpha(kL), false, g, rng);
-      GuardedImage<T> b(g.dw(), g.dh(), tpx::Stride(kL), g.dstPad, g.dstMis), c(g.dw(), g.dh(), tpx::Stride(kL), g.dstPad, g.dstMis);
-      b.CopyFrom(a.dst);
-      c.CopyFrom(a.dst);
+      GuardedImage<T> b = Clone(a.dst, g.dstPad, g.dstMis), c = Clone(a.dst, g.dstPad, g.dstMis);
       const tpx::BorderValue<T, kL> value(a.value);
       const tpx::BorderExtent ext{g.left, g.top, g.right, g.bottom};
       const T* s = a.src.Data();
       tpx::ExtendImage<T, kL, Isa::kScalar>(kind, s, a.src.Step(), g.w, g.h, a.dst.Data(), a.dst.Step(), ext, &value);
       tpx::ExtendImage<T, kL, Isa::kAvx>(kind, s, a.src.Step(), g.w, g.h, b.Data(), b.Step(), ext, &value);
       tpx::ExtendImage<T, kL, Isa::kAvx>(kind, s, a.src.Step(), g.w, g.h, c.Data(), c.Step(), ext, &value, true);
-      ASSERT_TRUE(SameBytes(a.dst.Samples(), a.want)) << "kind " << int(kind) << " w=" << g.w;
+      ASSERT_TRUE(Same(a.dst, a.want)) << "kind " << int(kind) << " w=" << g.w;
       ASSERT_TRUE(Same(b, a.dst)) << "kind " << int(kind);
       ASSERT_TRUE(Same(c, a.dst)) << "streamed, kind " << int(kind);
     }
@@ -209,7 +201,7 @@ TEST(BorderRows, ScalarAndVectorRoutinesAgree) {
 template <class T>
 ::testing::AssertionResult CheckCall(const Member<T>& m, int form, const Geometry& g, Rng& rng) {
   Scene<T> s(m.kind, tpx::Stride(m.layout), m.layout == Layout::AC4, form % 2 == 1 || form == 4, g, rng);
-  const std::vector<T> srcBefore = s.src.Samples();
+  const GuardedImage<T> srcBefore = Clone(s.src);
   T* in = &s.dst.At(g.left, g.top);
   const TpxSize sr{g.w, g.h}, dr{g.dw(), g.dh()};
   const TpxSizeL srl{g.w, g.h}, drl{g.dw(), g.dh()};
@@ -225,9 +217,8 @@ template <class T>
       << m.name << " form " << form << " w=" << g.w << " h=" << g.h << " l/t/r/b=" << g.left << "/" << g.top << "/"
       << g.right << "/" << g.bottom << ": ";
   if (st != tpxOk) return fail << "status " << st;
-  if (!SameBytes(s.dst.Samples(), s.want)) return fail << "samples differ";
-  if (!s.dst.GuardsIntact()) return fail << "wrote outside the destination";
-  if (!SameBytes(s.src.Samples(), srcBefore) || !s.src.GuardsIntact()) return fail << "touched the source";
+  if (auto r = Same(s.dst, s.want); !r) return fail << r.message();
+  if (auto r = Same(s.src, srcBefore); !r) return fail << "source: " << r.message();
 #ifdef TPX_HAVE_OPENCV
   // copyMakeBorder agrees where it has the rule (it too reflects past one period).
   const int cvKinds[] = {0, cv::BORDER_REPLICATE, cv::BORDER_WRAP, cv::BORDER_REFLECT_101, 0, 0, cv::BORDER_CONSTANT};
@@ -272,7 +263,7 @@ TEST(BorderCopyChecks, OrderIsPointersStepsSizes) {
   Rng rng(1);
   GuardedImage<Tpx8u> d(12, 6, 1, 4, 1);  // must stay as it is: any write shows
   tpxtest::FillRandom(d, rng);
-  const std::vector<Tpx8u> before = d.Samples();
+  const GuardedImage<Tpx8u> before = Clone(d);
   Tpx8u* p = d.Data();
   const TpxSize s{4, 3}, dd{12, 6}, empty{0, 3};
   // Null beside a bad step, bad step beside a bad size: the earlier check wins in each family.
@@ -300,7 +291,7 @@ TEST(BorderCopyChecks, OrderIsPointersStepsSizes) {
   EXPECT_EQ(tpxiCopyWrapBorder_32s_C1R(reinterpret_cast<Tpx32s*>(p), 0, {2, 2}, reinterpret_cast<Tpx32s*>(p), 12, {3, 6}, 2, 0), tpxErrStep);
   EXPECT_EQ(tpxiCopyConstBorder_8u_C1R(q, 0, s, q, d.Step(), s, 0, 0, 1), tpxErrStep);
   EXPECT_EQ(tpxiCopyConstBorder_8u_C1R(q, d.Step(), s, q, d.Step(), s, 0, 0, 1), tpxOk);
-  EXPECT_TRUE(SameBytes(d.Samples(), before) && d.GuardsIntact());
+  EXPECT_TRUE(Same(d, before));
 }
 
 TEST(BorderCopyL, WideCallsRunInSixtyFourBits) {

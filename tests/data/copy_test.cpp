@@ -85,11 +85,11 @@ TYPED_TEST(CopyTest, PlanarBothWays) {
   Rng rng(303);
   for (int n : {3, 4})
     for (const Shape sh : tpxtest::Shapes(Vec<T>())) {
-      GuardedImage<T> packed(sh.width, sh.height, n, sh.padSamples, sh.misalign), want(sh.width, n * sh.height);
+      GuardedImage<T> packed(sh.width, sh.height, n, sh.padSamples, sh.misalign);
       GuardedImage<T> planes(sh.width, n * sh.height, 1, sh.padSamples + 2, (sh.misalign + 1) % 4);
       GuardedImage<T> back(sh.width, sh.height, n, (sh.padSamples + 5) % 8, (sh.misalign + 2) % 5);
       for (auto* img : {&packed, &planes, &back}) tpxtest::FillRandom(*img, rng);
-      want.CopyFrom(planes);
+      GuardedImage<T> want = Clone(planes);
       Each(sh.width, sh.height, [&](int x, int y) {
         for (int c = 0; c < n; ++c) want.At(x, c * sh.height + y) = packed.At(x, y, c);
       });
@@ -135,9 +135,9 @@ TEST(CopyChannel, OverlapTakesTheSampleLoop) {
   Rng rng(5);
   for (int n : {3, 4})
     for (int to : {n, 2}) {  // onto the next pixel, or channel 0 onto channel 2 of the same one
-      GuardedImage<Tpx16s> img(40, 5, n, 3), want(40, 5, n);
+      GuardedImage<Tpx16s> img(40, 5, n, 3);
       tpxtest::FillRandom(img, rng);
-      want.CopyFrom(img);
+      GuardedImage<Tpx16s> want = Clone(img);
       Each(40, 5, [&](int x, int y) { want.At(x, y, to % n) = want.At(to == n ? 0 : x, y, 0); });
       const auto fn = n == 3 ? tpxiCopy_16s_C3CR : tpxiCopy_16s_C4CR;
       ASSERT_EQ(tpxOk, fn(img.Data(), img.Step(), img.Data() + to, img.Step(), TpxSize{to == n ? 39 : 40, 5}));

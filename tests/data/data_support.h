@@ -52,6 +52,14 @@ inline int CacheTiny(int* size) { return ++g_cacheQueries, *size = 1, 0; }      
 inline int CacheUnknown(int* size) { return ++g_cacheQueries, *size = 0, -1; }        // plain stores
 inline int CacheHuge(int* size) { return ++g_cacheQueries, *size = 0x7fffffff, 0; }   // plain stores, query succeeds
 
+// A copy of an image's region with guard bands of its own, padSamples and misalign as given.
+template <class T>
+GuardedImage<T> Clone(const GuardedImage<T>& img, int padSamples = 0, int misalign = 0) {
+  GuardedImage<T> c(img.Width(), img.Height(), img.Channels(), padSamples, misalign);
+  c.CopyFrom(img);
+  return c;
+}
+
 template <class F>
 void Each(int w, int h, F&& f) {
   for (int y = 0; y < h; ++y)
@@ -103,12 +111,12 @@ template <class T, class Call, class Px>
 void Sweep(const std::vector<Shape>& shapes, int srcCh, int dstCh, Rng& rng, Call&& call, Px&& px, Dst mode = kFresh) {
   for (const Shape sh : shapes) {
     const int w = mode == kSwapped ? sh.height : sh.width, h = mode == kSwapped ? sh.width : sh.height;
-    GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign), want(w, h, dstCh);
+    GuardedImage<T> src(sh.width, sh.height, srcCh, sh.padSamples, sh.misalign);
     GuardedImage<T> dst(w, h, dstCh, (sh.padSamples * 3) % 7, (sh.misalign + 3) % 5);
     tpxtest::FillRandom(src, rng);
     if (mode == kCopyOfSrc) dst.CopyFrom(src);
     else tpxtest::FillRandom(dst, rng);
-    want.CopyFrom(dst);
+    GuardedImage<T> want = Clone(dst);
     ASSERT_EQ(tpxOk, call(src, dst)) << sh.width << "x" << sh.height;
     Each(sh.width, sh.height, [&](int x, int y) { px(src, want, x, y); });
     ASSERT_TRUE(Same(dst, want)) << sh.width << "x" << sh.height << " pad " << sh.padSamples << " mis " << sh.misalign;
@@ -119,8 +127,7 @@ void Sweep(const std::vector<Shape>& shapes, int srcCh, int dstCh, Rng& rng, Cal
 // copy with no known cache (plain stores): both must end equal, with the guards intact.
 template <class T, class F>
 void StreamsLikePlain(GuardedImage<T>& a, F&& f) {
-  GuardedImage<T> b(a.Width(), a.Height(), a.Channels());
-  b.CopyFrom(a);
+  GuardedImage<T> b = Clone(a);
   f(a, CacheTiny);
   f(b, CacheUnknown);
   ASSERT_TRUE(Same(a, b));
