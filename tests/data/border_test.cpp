@@ -16,7 +16,6 @@ using namespace datatest;  // NOLINT
 using tpx::BorderKind;
 using tpx::Isa;
 using tpx::Layout;
-using tpx::RunOp;
 
 const BorderKind kKinds[] = {BorderKind::kRepl,       BorderKind::kWrap,  BorderKind::kMirror,
                              BorderKind::kMirrorEdge, BorderKind::kConst, BorderKind::kTransp};
@@ -118,33 +117,6 @@ TEST(BorderType, StepsInOrderWithNamedSets) {
   EXPECT_EQ(CheckBorderType(0x70, tpx::kBorderReplMirrorConst), tpxErrBorder);
   EXPECT_EQ(tpx::BorderKindOf(0xF3), BorderKind::kMirror);
   EXPECT_EQ(tpx::BorderInMemFlags(0xA6), tpxBorderInMemBottom | tpxBorderInMemRight);
-}
-
-TEST(BorderIndex, RulesAndRunsAgreeWithTheStepwiseModel) {
-  for (BorderKind k : kKinds)
-    for (long long n = 1; n <= 9; ++n)
-      for (long long i = -60; i <= 60; ++i)
-        ASSERT_EQ(tpx::BorderIndex(k, i, n), ModelIndex(k, i, n)) << int(k) << " n=" << n << " i=" << i;
-  EXPECT_EQ(tpx::BorderIndex(BorderKind::kMirror, -1000000000003LL, 5), 3);  // far away, in one division
-  EXPECT_EQ(tpx::BorderIndex(BorderKind::kWrap, 1000000000003LL, 7), 1000000000003LL % 7);
-  Rng rng(11);
-  for (int trial = 0; trial < 3000; ++trial) {
-    const BorderKind k = kKinds[trial % 6];
-    const long long n = rng.Int(1, 12), first = rng.Int(-80, 80), count = rng.Int(0, 90);
-    long long next = 0;
-    bool ok = true;
-    tpx::ForEachBorderRun(k, first, count, n, [&](const tpx::BorderRun& r) {
-      ok = ok && r.at == next && r.len > 0;
-      for (long long j = 0; j < r.len; ++j) {
-        const RunOp op = r.op;
-        const long long at = op == RunOp::kForward ? r.src + j : op == RunOp::kBackward ? r.src - j : op == RunOp::kRepeat ? r.src : -1;
-        ok = ok && ModelIndex(k, first + r.at + j, n) == at && (op != RunOp::kValue || k == BorderKind::kConst) &&
-             (op != RunOp::kKeep || k == BorderKind::kTransp);
-      }
-      next += r.len;
-    });
-    ASSERT_TRUE(ok && next == count) << int(k) << " n=" << n << " first=" << first << " count=" << count;
-  }
 }
 
 // Pixel repetition and reversal, vector against scalar, at every count up to three periods and
