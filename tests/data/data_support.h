@@ -3,6 +3,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <type_traits>
 #include <vector>
 
@@ -146,8 +147,7 @@ template <class T, class K>
   std::vector<T*> pa, pb;
   for (int n : sizes) {
     tpxtest::FillRandom(a.emplace_back(n, 1), rng);
-    b.emplace_back(n, 1).CopyFrom(a.back());
-    pa.push_back(a.back().Data()), pb.push_back(b.back().Data());
+    pa.push_back(a.back().Data()), pb.push_back(b.emplace_back(Clone(a.back())).Data());
   }
   k(Avx{}, pa.data());
   k(Scalar{}, pb.data());
@@ -157,15 +157,17 @@ template <class T, class K>
   return ::testing::AssertionSuccess();
 }
 
-// Bits of a mask with random zeros: runs of zeros and non-zeros, so that whole 16-pixel steps of
-// either kind occur beside mixed ones.
-inline void FillMask(GuardedImage<Tpx8u>& m, Rng& rng) {
+// A mask of w x h with a random step and misalignment and random zeros: runs of zeros and
+// non-zeros, so that whole 16-pixel steps of either kind occur beside mixed ones.
+inline std::unique_ptr<GuardedImage<Tpx8u>> RandomMask(int w, int h, Rng& rng) {
+  auto m = std::make_unique<GuardedImage<Tpx8u>>(w, h, 1, rng.Int(0, 9), rng.Int(0, 5));
   int run = 0;
   bool on = rng.Chance(0.5);
-  Each(m.Width(), m.Height(), [&](int x, int y) {
+  Each(w, h, [&](int x, int y) {
     if (run-- <= 0) on = !on, run = rng.Chance(0.5) ? rng.Int(0, 3) : rng.Int(10, 40);
-    m.At(x, y) = on ? static_cast<Tpx8u>(rng.Int(1, 255)) : 0;
+    m->At(x, y) = on ? static_cast<Tpx8u>(rng.Int(1, 255)) : 0;
   });
+  return m;
 }
 
 }  // namespace datatest

@@ -1,8 +1,6 @@
 // Mirror: every member and axis against a reference, AC4 alpha kept, in place equal to out of
 // place, the diagonal axes with their overlap test, the check order, the streaming paths against
 // plain stores, the row kernels against their scalar twins, OpenCV as an oracle.
-#include <gtest/gtest.h>
-
 #include "data/mirror_rows.h"
 #include "tests/data/data_support.h"
 

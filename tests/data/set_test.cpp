@@ -1,9 +1,5 @@
 // Set in all its forms: every member against a reference, kept channels and guard bands, masks
 // with random zeros, the cache query of the fill and its streaming path, the check order.
-#include <gtest/gtest.h>
-
-#include <memory>
-
 #include "core/region.h"
 #include "tests/data/data_support.h"
 
@@ -36,8 +32,7 @@ TYPED_TEST(SetTest, EveryMemberPlainAndMasked) {
             if (l >= 4) return (l == 4 ? Api<T>::c3c : Api<T>::c4c)(value[0], d.Data() + (c0 = rng.Int(0, ch - 1)), d.Step(), d.Size());
             if (!masked) return l == 0 ? Api<T>::c1(value[0], d.Data(), d.Step(), d.Size())
                                        : Api<T>::byPtr[l - 1](value, d.Data(), d.Step(), d.Size());
-            mask = std::make_unique<GuardedImage<Tpx8u>>(d.Width(), d.Height(), 1, rng.Int(0, 5), rng.Int(0, 3));
-            FillMask(*mask, rng);
+            mask = RandomMask(d.Width(), d.Height(), rng);
             return l == 0 ? Api<T>::c1m(value[0], d.Data(), d.Step(), d.Size(), mask->Data(), mask->Step())
                           : Api<T>::byPtrM[l - 1](value, d.Data(), d.Step(), d.Size(), mask->Data(), mask->Step());
           },

@@ -1,7 +1,5 @@
 // SwapChannels: every form against a reference with random orders, the C3C4R rule for entries 3
 // and above, in place equal to out of place, and each form's own check order.
-#include <gtest/gtest.h>
-
 #include "tests/data/data_support.h"
 
 namespace {

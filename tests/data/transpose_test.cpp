@@ -1,8 +1,6 @@
 // Transpose: every member against a reference on non-square images and edge tiles, the square
 // in-place forms, the same-image diversion before any check, the large-image path against the
 // tile walk, the tile kernel against its scalar twin, and OpenCV as an independent oracle.
-#include <gtest/gtest.h>
-
 #include "data/transpose_rows.h"
 #include "tests/data/data_support.h"
 
