@@ -152,10 +152,10 @@ void StreamCase(int w, int h, int pad, int mis) {
   ASSERT_TRUE(tpxtest::SameSamples(a, src));
 }
 
-// One long row of 0x200001 pixels and more, then rows; 0xC0001 C3 pixels; 8-byte pixels past 0x60001; 0x80001 floats.
+// Rows apart (padded steps, 1-byte pixels past 0x200001), 3-byte pixels past 0xC0001, and one
+// long misaligned row of 0x80001 floats and more.
 TEST(CopyStreaming, EqualsPlainPath) {
-  StreamCase<Tpx8u, tpx::Layout::C1>(2100, 1000, 0, 0), StreamCase<Tpx8u, tpx::Layout::C1>(2100, 1000, 5, 3);
-  StreamCase<Tpx8u, tpx::Layout::C3>(1000, 787, 1, 7), StreamCase<Tpx16u, tpx::Layout::C4>(700, 900, 3, 1);
+  StreamCase<Tpx8u, tpx::Layout::C1>(2100, 1000, 5, 3), StreamCase<Tpx8u, tpx::Layout::C3>(1000, 787, 1, 7);
   StreamCase<Tpx32f, tpx::Layout::C1>(1024, 513, 0, 1);
 }
 
