@@ -1002,6 +1002,13 @@ TPX_FILTER_INLINE void Float32Taps(Row&& row, const float* last, int kwRun, int 
   }
 }
 
+// Asks for kLines 64-byte lines of floats from p on into the first-level cache.
+template <int kLines>
+TPX_FILTER_INLINE void PrefetchLines(const float* p) {
+  #pragma GCC unroll 8
+  for (int l = 0; l < kLines; ++l) _mm_prefetch(reinterpret_cast<const char*>(p + 16 * l), _MM_HINT_T0);
+}
+
 // 3x3 and 5x5: one destination row per pass over blocks of 64 samples, then single vectors
 // and an overlapping last vector. A full block asks for its lines of the source row the next
 // row adds and for the destination lines two blocks ahead.
@@ -1017,11 +1024,8 @@ void Float32RowsUnrolled(const float* src, std::ptrdiff_t srcStep, float* dst, s
     auto block = [&](auto v, int o) {
       constexpr int kV = decltype(v)::value;
       if constexpr (kV == 8) {
-        #pragma GCC unroll 4
-        for (int l = 0; l < 64; l += 16) {
-          _mm_prefetch(reinterpret_cast<const char*>(d + o + 128 + l), _MM_HINT_T0);
-          if (next) _mm_prefetch(reinterpret_cast<const char*>(next + o + l), _MM_HINT_T0);
-        }
+        PrefetchLines<4>(d + o + 128);
+        if (next) PrefetchLines<4>(next + o);
       }
       __m256 a[kV];
       UnrolledRowSums<kCh, kV, kK, kK>(rows, o, k, a);
@@ -1062,15 +1066,11 @@ void Float32Rows(const float* src, std::ptrdiff_t srcStep, float* dst, std::ptrd
             constexpr int kV = decltype(v)::value;
             auto row = [&](int r) { return Advance(top, static_cast<std::ptrdiff_t>(r) * srcStep) + o; };
             if constexpr (kV == 4) {
-              auto ahead = [](const float* p) {
-                _mm_prefetch(reinterpret_cast<const char*>(p), _MM_HINT_T0);
-                _mm_prefetch(reinterpret_cast<const char*>(p + 16), _MM_HINT_T0);
-              };
-              ahead(d0 + o + 64);
-              if constexpr (kR == 2) ahead(d1 + o + 64);
+              PrefetchLines<2>(d0 + o + 64);
+              if constexpr (kR == 2) PrefetchLines<2>(d1 + o + 64);
               if (more) {
-                ahead(row(win.kh + 1) + 32);
-                ahead(row(win.kh + 2) + 32);
+                PrefetchLines<2>(row(win.kh + 1) + 32);
+                PrefetchLines<2>(row(win.kh + 2) + 32);
               }
             }
             __m256 a[kR][kV];
